@@ -70,6 +70,9 @@ template <class T> class cow_CountedHld
     /// Address of the count, the same for all holders of one value.
     const int *CountBlock() const { return count; }
 
+    /// Adds a holder to the count, which must call Release in its turn.
+    void Share() { ++*count; }
+
     /// Takes 1 from the count and tells whether this was the last holder, which must then call Delete.
     bool Release() { return (*count)-- == 1; }
 
