@@ -24,25 +24,26 @@ inline constexpr bool slabActive = true;
 inline constexpr bool slabActive = true;
 #endif
 
-inline constexpr std::size_t slabSizes[] = {4, 8, 16, 32, 48, 64};
-inline constexpr unsigned slabClassCount = sizeof slabSizes / sizeof slabSizes[0];
-inline constexpr std::size_t tinyLimit = 16;
-inline constexpr std::size_t slabLimit = 64;
+/// Blocks come in sizes of 4 and 8 bytes and in steps of 16 up to slabLimit.
+inline constexpr std::size_t slabLimit = 256;
+inline constexpr unsigned slabClassCount = 2 + slabLimit / 16;
+
+constexpr unsigned SlabClass(std::size_t size)
+{
+    if (size <= 8)
+        return size > 4;
+    return static_cast<unsigned>(1 + (size + 15) / 16);
+}
+
+constexpr std::size_t SlabSize(unsigned slabClass)
+{
+    return slabClass < 2 ? std::size_t{4} << slabClass : std::size_t{16} * (slabClass - 1);
+}
 
 /// Each size class owns 2^slabShift bytes of addresses; a free-list link counts in units of 4 bytes.
 inline constexpr unsigned slabShift = 34;
 inline constexpr std::uintptr_t slabClassBytes = std::uintptr_t{1} << slabShift;
 inline constexpr unsigned linkShift = 2;
-
-constexpr unsigned SlabClass(std::size_t size)
-{
-    if (size <= 4)
-        return 0;
-    if (size <= 8)
-        return 1;
-    return 2 + static_cast<unsigned>(size > 16) + static_cast<unsigned>(size > 32) +
-           static_cast<unsigned>(size > 48);
-}
 
 struct SlabState
 {
@@ -56,34 +57,34 @@ struct SlabState
 extern OVR_EXPORT SlabState slab;
 
 /// Commits more of the class and takes a block from it; falls back to the C heap when the range is exhausted.
-OVR_EXPORT void *SlabGrow(unsigned slabClass);
+OVR_EXPORT void* SlabGrow(unsigned slabClass);
 
 /// A block from the C heap; throws std::bad_alloc.
-OVR_EXPORT void *HeapNew(std::size_t size);
+OVR_EXPORT void* HeapNew(std::size_t size);
 
 /// Gives a block of the C heap back; null does nothing.
-OVR_EXPORT void HeapFree(void *block) noexcept;
+OVR_EXPORT void HeapFree(void* block) noexcept;
 
-inline void *SlabNew(unsigned slabClass)
+inline void* SlabNew(unsigned slabClass)
 {
     if (const std::uint32_t link = slab.freeLink[slabClass])
     {
-        auto *block = reinterpret_cast<std::uint32_t *>(slab.base + slabClass * slabClassBytes +
-                                                        (std::uintptr_t{link} << linkShift));
+        auto* block = reinterpret_cast<std::uint32_t*>(slab.base + slabClass * slabClassBytes +
+                                                       (std::uintptr_t{link} << linkShift));
         slab.freeLink[slabClass] = *block;
         return block;
     }
     const std::uintptr_t block = slab.next[slabClass];
     if (block == slab.usable[slabClass]) [[unlikely]]
         return SlabGrow(slabClass);
-    slab.next[slabClass] = block + slabSizes[slabClass];
-    return reinterpret_cast<void *>(block);
+    slab.next[slabClass] = block + SlabSize(slabClass);
+    return reinterpret_cast<void*>(block);
 }
 } // namespace mem_detail
 
 /// Raw storage of `size` bytes, aligned for any type of that size up to 16; throws std::bad_alloc.
 /// Give it back through mem_Free.
-inline void *mem_OperatorNewThrow(std::size_t size)
+inline void* mem_OperatorNewThrow(std::size_t size)
 {
     if (mem_detail::slabActive && size <= mem_detail::slabLimit)
         return mem_detail::SlabNew(mem_detail::SlabClass(size));
@@ -91,27 +92,36 @@ inline void *mem_OperatorNewThrow(std::size_t size)
 }
 
 /// As mem_OperatorNewThrow, for arrays of built-in types.
-inline void *mem_OperatorNewThrowBuiltin(std::size_t size) { return mem_OperatorNewThrow(size); }
+inline void* mem_OperatorNewThrowBuiltin(std::size_t size)
+{
+    return mem_OperatorNewThrow(size);
+}
 
 /// As mem_OperatorNewThrow, meant for counts and handles of 4 to 16 bytes, which it lays side by side.
-inline void *mem_OperatorNewTinyThrow(std::size_t size) { return mem_OperatorNewThrow(size); }
+inline void* mem_OperatorNewTinyThrow(std::size_t size)
+{
+    return mem_OperatorNewThrow(size);
+}
 
 /// As malloc, but throws std::bad_alloc instead of returning null.
-OVR_EXPORT void *mem_Malloc(std::size_t size);
+inline void* mem_Malloc(std::size_t size)
+{
+    return mem_OperatorNewThrow(size);
+}
 
 /// As realloc, for any block of this header, but throws std::bad_alloc (the old block stays valid) instead of
 /// returning null. Size 0 frees the block and returns null.
-OVR_EXPORT void *mem_Realloc(void *block, std::size_t size);
+OVR_EXPORT void* mem_Realloc(void* block, std::size_t size);
 
 /// Gives back a block of any function of this header; null does nothing.
-inline void mem_Free(void *block) noexcept
+inline void mem_Free(void* block) noexcept
 {
     using namespace mem_detail;
     const std::uintptr_t distance = reinterpret_cast<std::uintptr_t>(block) - slab.base;
     if (slabActive && distance < slab.bytes)
     {
-        std::uint32_t &newest = slab.freeLink[distance >> slabShift];
-        *static_cast<std::uint32_t *>(block) = newest;
+        std::uint32_t& newest = slab.freeLink[distance >> slabShift];
+        *static_cast<std::uint32_t*>(block) = newest;
         newest = static_cast<std::uint32_t>((distance & (slabClassBytes - 1)) >> linkShift);
         return;
     }
