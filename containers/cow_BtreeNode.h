@@ -62,13 +62,14 @@ public:
         const cow_BtreeNode* node = this;
         for (;;)
         {
+            const cow_BtreeNode* lower = Fetch(node->left);
+            const cow_BtreeNode* higher = Fetch(node->right);
             const int order = cow_KeyOrder<K>::Compare(sought, node->key);
             if (order == 0)
                 return &node->value;
-            const Handle* child = order < 0 ? node->left : node->right;
-            if (child == nullptr)
+            node = order < 0 ? lower : higher;
+            if (node == nullptr)
                 return nullptr;
-            node = child->ConstGet();
         }
     }
 
@@ -79,6 +80,8 @@ public:
         cow_BtreeNode* node = this;
         for (;;)
         {
+            Fetch(node->left);
+            Fetch(node->right);
             const int order = cow_KeyOrder<K>::Compare(sought, node->key);
             if (order == 0)
                 return &node->value;
@@ -217,6 +220,17 @@ private:
         Release(std::exchange(slot, copy));
     }
 
+    /// The node below `handle`, or null. Starts to load it: on the way down both children are fetched while
+    /// the keys are compared, since a node and its handle lie apart.
+    static const cow_BtreeNode* Fetch(const Handle* handle)
+    {
+        if (handle == nullptr)
+            return nullptr;
+        const cow_BtreeNode* node = handle->ConstGet();
+        __builtin_prefetch(node);
+        return node;
+    }
+
     static int HeightOrZero(const Handle* handle) { return handle == nullptr ? 0 : (*handle)->height; }
 
     static int HeightAbove(const Handle* handle) { return handle == nullptr ? 0 : (*handle)->height + 1; }
@@ -277,6 +291,8 @@ private:
         cow_BtreeNode* node = this;
         for (;;)
         {
+            Fetch(node->left);
+            Fetch(node->right);
             const int order = cow_KeyOrder<K>::Compare(newKey, node->key);
             if (order == 0)
                 return false;
@@ -301,6 +317,8 @@ private:
         cow_BtreeNode* node = this;
         for (;;)
         {
+            Fetch(node->left);
+            Fetch(node->right);
             const int order = cow_KeyOrder<K>::Compare(sought, node->key);
             if (order == 0)
                 break;
