@@ -1,0 +1,3 @@
+#include "atr_NaturalOrder.h"
+
+bool atr_detail::naturalOrder = false;

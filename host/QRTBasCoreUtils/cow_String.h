@@ -1,0 +1,29 @@
+#pragma once
+
+#include "atr_NaturalOrder.h"
+#include "atr_StringBase.h"
+#include "cow_KeyOrder.h"
+#include "strnatcmp.h"
+
+/// The shared text of names, paths and stored values.
+class OVR_EXPORT cow_String : public atr_StringOf<cow_String>
+{
+public:
+    using atr_StringOf<cow_String>::atr_StringOf;
+    using atr_StringOf<cow_String>::operator=;
+
+    constexpr cow_String() noexcept = default;
+};
+
+/// Keys sort by strnatcmp while atr_getNaturalOrder() is true, else by strcmp; the flag is asked each time.
+template <>
+class cow_KeyOrder<cow_String>
+{
+public:
+    static int Compare(const cow_String& a, const cow_String& b)
+    {
+        if (atr_getNaturalOrder())
+            return strnatcmp(a.CString(), b.CString());
+        return std::strcmp(a.CString(), b.CString());
+    }
+};
