@@ -117,22 +117,19 @@ public:
 
     void Append(const T& value)
     {
-        const int position = offset + count;
-        const bool fits = ((position >> blockShift) | (tableUnit - 1)) + 1 == tableSize;
-        if (!fits || !IsPrivate(position)) [[unlikely]]
+        if (table == nullptr || Head().backNext == Head().backEnd || *tableShare > 1) [[unlikely]]
             OpenBack();
-        ::new (static_cast<void*>(At(offset + count))) T(value);
+        ::new (static_cast<void*>(Head().backNext)) T(value);
+        ++Head().backNext;
         ++count;
     }
 
     void Prepend(const T& value)
     {
-        if (offset == 0 || !IsPrivate(offset - 1)) [[unlikely]]
-        {
-            Prefix();
-            IsolateRange(-1, -1);
-        }
-        ::new (static_cast<void*>(At(offset - 1))) T(value);
+        if (table == nullptr || Head().frontNext == Head().frontEnd || *tableShare > 1) [[unlikely]]
+            OpenFront();
+        ::new (static_cast<void*>(Head().frontNext - 1)) T(value);
+        --Head().frontNext;
         --offset;
         ++count;
     }
@@ -145,6 +142,8 @@ public:
         if (i == 0)
             return Prepend(value);
         CheckIndex(i);
+        CopyArray();
+        ForgetEnds();
         // `value` may be one of the elements that move.
         Holding held(value);
         if (count - i > i)
@@ -158,6 +157,7 @@ public:
     {
         CheckIndex(i);
         CopyArray();
+        ForgetEnds();
         if (count - i <= i)
             RemoveTowardsBack(i);
         else
@@ -317,12 +317,7 @@ public:
     {
         const int lastSlot = (offset + last) >> blockShift;
         for (int slot = (offset + first) >> blockShift; slot <= lastSlot; ++slot)
-        {
-            if (table[slot] == nullptr)
-                table[slot] = NewBlock();
-            else if (table[slot]->share > 1)
-                IsolateBlock(slot);
-        }
+            PrivateBlock(slot);
     }
 
     /// Makes room at the front, where there is none, out of all free room at the back; makes the table
@@ -416,9 +411,44 @@ private:
 
     static int* NewShare() { return ::new (mem_OperatorNewTinyThrow(sizeof(int))) int(1); }
 
-    static void* TableBlock(std::int64_t slots)
+    /// Lies right before the table's slots. Its storage begins `gap` unused slots before it and has room for
+    /// `capacity` slots in all, so that the table grows at both ends without being copied each time.
+    struct TableHead
     {
-        return mem_Malloc(static_cast<std::size_t>(slots) * sizeof(ListBlock*));
+        T* backNext;  ///< place behind the last element, where Append writes next; or as backEnd: not known
+        T* backEnd;   ///< end of that private block
+        T* frontNext; ///< place of element 0, before which Prepend writes next; or as frontEnd: not known
+        T* frontEnd;  ///< start of that private block
+        int gap;
+        int capacity;
+    };
+
+    TableHead& Head() const { return reinterpret_cast<TableHead*>(table)[-1]; }
+
+    /// Storage of a table, with its head, for `capacity` slots of which the first `gap` stay unused.
+    static ListBlock** NewTable(int gap, int capacity)
+    {
+        const auto slots = static_cast<std::size_t>(capacity) * sizeof(ListBlock*);
+        auto* storage = static_cast<std::byte*>(mem_Malloc(sizeof(TableHead) + slots));
+        auto* head =
+            reinterpret_cast<TableHead*>(storage + static_cast<std::size_t>(gap) * sizeof(ListBlock*));
+        ::new (static_cast<void*>(head)) TableHead{nullptr, nullptr, nullptr, nullptr, gap, capacity};
+        return reinterpret_cast<ListBlock**>(head + 1);
+    }
+
+    void FreeTable() noexcept
+    {
+        if (table != nullptr)
+            mem_Free(reinterpret_cast<ListBlock**>(&Head()) - Head().gap);
+    }
+
+    /// Before a change other than Append and Prepend: their next places have to be found anew.
+    void ForgetEnds() noexcept
+    {
+        if (table == nullptr)
+            return;
+        Head().backNext = Head().backEnd = nullptr;
+        Head().frontNext = Head().frontEnd = nullptr;
     }
 
     int BlockSize() const { return 1 << blockShift; }
@@ -485,9 +515,8 @@ private:
         int slots = tableUnit;
         if (shift > newBlockShift)
             slots += static_cast<int>(((bits & 0x7FFFFFu) + 0x8FFFFFu) >> 20);
-        void* storage = TableBlock(slots);
-        std::memset(storage, 0, static_cast<std::size_t>(slots) * sizeof(ListBlock*));
-        table = static_cast<ListBlock**>(storage);
+        table = NewTable(0, slots);
+        std::fill_n(table, slots, nullptr);
         tableSize = slots;
         blockShift = std::max(shift, newBlockShift);
     }
@@ -555,7 +584,7 @@ private:
             if (table[slot] != nullptr)
                 ReleaseBlock(slot);
         }
-        mem_Free(table);
+        FreeTable();
         mem_Free(tableShare);
     }
 
@@ -574,6 +603,16 @@ private:
         return {place(offset), place(std::int64_t{offset} + count)};
     }
 
+    /// The data of the block in `slot`, which is made or isolated if need be.
+    T* PrivateBlock(int slot)
+    {
+        if (table[slot] == nullptr)
+            table[slot] = NewBlock();
+        else if (table[slot]->share > 1) [[unlikely]]
+            IsolateBlock(slot);
+        return table[slot]->data;
+    }
+
     [[gnu::noinline]] void UnshareTable()
     {
         ListBlock** copy = nullptr;
@@ -582,7 +621,7 @@ private:
         {
             try
             {
-                copy = static_cast<ListBlock**>(TableBlock(tableSize));
+                copy = NewTable(0, tableSize);
             }
             catch (...)
             {
@@ -591,6 +630,7 @@ private:
             }
             std::memcpy(copy, table, static_cast<std::size_t>(tableSize) * sizeof(ListBlock*));
             ShareBlocks();
+            ForgetEnds();
         }
         --*tableShare;
         tableShare = fresh;
@@ -641,12 +681,62 @@ private:
         // An operation that failed can have left blocks behind the last element.
         for (int slot = slots; slot < tableSize; ++slot)
             DropBlock(slot);
-        const auto bytes = static_cast<std::size_t>(slots) * sizeof(ListBlock*);
-        table = static_cast<ListBlock**>(mem_Realloc(table, bytes));
-        if (slots > tableSize)
-            std::memset(static_cast<void*>(table + tableSize), 0,
-                        static_cast<std::size_t>(slots - tableSize) * sizeof(ListBlock*));
+        LayTable(slots, 0);
+    }
+
+    /// Gives the private table `slots` slots, with the present ones moved up by `shift`. Slots that fall off
+    /// the end must be null; new ones are.
+    void LayTable(int slots, int shift)
+    {
+        const int kept = std::min(tableSize, slots - shift);
+        if (slots == 0)
+        {
+            FreeTable();
+            table = nullptr;
+        }
+        else if (FitsStorage(slots, shift))
+            MoveHeadDown(shift);
+        else
+            NewStorage(slots, shift, kept);
         tableSize = slots;
+        if (slots == 0)
+            return;
+        ForgetEnds();
+        std::fill_n(table, shift, nullptr);
+        std::fill(table + shift + kept, table + slots, nullptr);
+    }
+
+    bool FitsStorage(int slots, int shift) const
+    {
+        constexpr int wasteful = 8;
+        if (table == nullptr || Head().gap < shift)
+            return false;
+        return Head().gap - shift + slots <= Head().capacity && Head().capacity / wasteful <= slots;
+    }
+
+    void MoveHeadDown(int shift) noexcept
+    {
+        TableHead head = Head();
+        head.gap -= shift;
+        table -= shift;
+        ::new (static_cast<void*>(&Head())) TableHead(head);
+    }
+
+    /// New storage for LayTable: room as long as the table itself at the end that grows, at the other as it
+    /// was.
+    void NewStorage(int slots, int shift, int kept)
+    {
+        int gap = 0;
+        int back = 0;
+        if (table != nullptr && slots > tableSize)
+        {
+            gap = shift > 0 ? slots : std::min(Head().gap, slots);
+            back = shift > 0 ? std::min(Head().capacity - Head().gap - tableSize, slots) : slots;
+        }
+        ListBlock** fresh = NewTable(gap, gap + slots + back);
+        std::copy_n(table, kept, fresh + shift);
+        FreeTable();
+        table = fresh;
     }
 
     void Shrink(int n)
@@ -657,6 +747,7 @@ private:
             return Swap(fresh);
         }
         CopyArray();
+        ForgetEnds();
         const int position = n == 0 ? 0 : offset + n;
         const int keptSlots = static_cast<int>((std::int64_t{position} + BlockSize() - 1) >> blockShift);
         const int lastPlace = position & (BlockSize() - 1);
@@ -680,24 +771,39 @@ private:
     [[gnu::noinline]] void OpenBack()
     {
         CopyArray();
-        FitTable(PositionFor(std::int64_t{count} + 1));
-        IsolateRange(count, count);
+        const std::int64_t position = std::int64_t{offset} + count;
+        const auto slot = static_cast<int>(position >> blockShift);
+        if ((slot | (tableUnit - 1)) + 1 != tableSize) [[unlikely]]
+            FitTable(PositionFor(std::int64_t{count} + 1));
+        T* data = PrivateBlock(slot);
+        Head().backNext = data + (position & (BlockSize() - 1));
+        Head().backEnd = data + BlockSize();
+    }
+
+    /// Makes the place before element 0 ready to be written.
+    [[gnu::noinline]] void OpenFront()
+    {
+        Prefix();
+        const int position = offset - 1;
+        T* data = PrivateBlock(position >> blockShift);
+        Head().frontNext = data + (position & (BlockSize() - 1)) + 1;
+        Head().frontEnd = data;
     }
 
     [[gnu::noinline]] void ShiftTable()
     {
-        const int used = static_cast<int>((std::int64_t{BlockSize()} + count - 1) >> blockShift);
         CopyArray();
-        if (used == tableSize)
-            FitTable((std::int64_t{used} << blockShift) + 1);
-        const int shift = std::min(tableSize - used, (INT_MAX >> blockShift) - used);
+        const int used = static_cast<int>((std::int64_t{BlockSize()} + count - 1) >> blockShift);
+        int slots = tableSize;
+        if (used == slots)
+            slots = SlotsFor((std::int64_t{used} << blockShift) + 1);
+        const int shift = std::min(slots - used, (INT_MAX >> blockShift) - used);
         if (shift < 1)
             throw std::length_error("cow_List: more elements than a list can number");
         // An operation that failed can have left blocks behind the last element.
         for (int slot = used; slot < tableSize; ++slot)
             DropBlock(slot);
-        std::copy_backward(table, table + used, table + used + shift);
-        std::fill_n(table, std::min(shift, used), nullptr);
+        LayTable(slots, shift);
         offset = shift << blockShift;
     }
 
@@ -742,6 +848,7 @@ private:
     void Construct(int n, Make make)
     {
         CopyArray();
+        ForgetEnds();
         const int end = PositionFor(std::int64_t{count} + n);
         FitTable(end);
         if (n == 0)
@@ -843,7 +950,6 @@ private:
 
     void InsertTowardsBack(int i, Holding& held)
     {
-        CopyArray();
         FitTable(PositionFor(std::int64_t{count} + 1));
         IsolateRange(i, count);
         const int end = offset + count;
