@@ -2,6 +2,7 @@
 
 #include "QRTBasStringMode.h"
 #include "atr_StringBase.h"
+#include "cow_COW.h"
 
 /// A text for people: a message or a label, in the language in force.
 class OVR_EXPORT atr_String : public atr_StringOf<atr_String>
@@ -19,6 +20,9 @@ public:
     /// The text, which is UTF-8, in the encoding of the locale in force; see QRTBasI18n::ToEncoding.
     atr_String UTF8ToLocale() const;
 };
+
+template <>
+inline constexpr bool cow_IsRelocatable<atr_String> = true;
 
 /// A fixed text that is not to be translated, as it stands.
 OVR_EXPORT atr_String atr_raw(const char* text, QRTBasStringMode mode);

@@ -2,6 +2,7 @@
 
 #include "atr_NaturalOrder.h"
 #include "atr_StringBase.h"
+#include "cow_COW.h"
 #include "cow_KeyOrder.h"
 #include "strnatcmp.h"
 
@@ -14,6 +15,9 @@ public:
 
     constexpr cow_String() noexcept = default;
 };
+
+template <>
+inline constexpr bool cow_IsRelocatable<cow_String> = true;
 
 /// Keys sort by strnatcmp while atr_getNaturalOrder() is true, else by strcmp; the flag is asked each time.
 template <>
