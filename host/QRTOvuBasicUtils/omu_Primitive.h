@@ -1,0 +1,36 @@
+#pragma once
+
+#include "cow_String.h"
+#include "mem_AllocationOperators.h"
+#include "ovr_Export.h"
+
+class cls_WriteVisitor;
+class omu_PrimEnumBase;
+
+/// Sees a primitive by its kind.
+class OVR_EXPORT omu_PrimVisitor
+{
+public:
+    virtual ~omu_PrimVisitor();
+    virtual void VisitEnum(omu_PrimEnumBase& primitive) = 0;
+};
+
+/// A value on its way between a script and an object. It exists while it is handed over, and has an identity
+/// of its own so that it can be stored.
+class OVR_EXPORT omu_Primitive : public mem_AllocationOperators
+{
+public:
+    virtual ~omu_Primitive();
+    /// The name of the value's type, as messages give it.
+    virtual cow_String TypeString() const = 0;
+    /// The value as plain text; the argument is 0.
+    virtual cow_String AsString(int form) const = 0;
+    /// The value as a script would write it.
+    virtual cow_String AsRepr() const;
+    virtual bool operator==(const omu_Primitive& other) const = 0;
+    virtual void Accept(omu_PrimVisitor* visitor) = 0;
+    /// A new object of the same class with the same fields, owned by the caller.
+    virtual omu_Primitive* Copy() const = 0;
+    virtual unsigned DynTypeId() const = 0;
+    virtual void DBWrite(const cls_WriteVisitor& visitor) const = 0;
+};
