@@ -1,0 +1,52 @@
+#include "cls_Module.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace
+{
+
+atr_String TextOf(const cls_MessageTable& table, int code)
+{
+    const char* text = table.Text(code);
+    return text ? atr_raw(text, 0) : atr_String();
+}
+
+[[noreturn]] void Raise(const atr_String& text, const char* file, int line)
+{
+    nex_PrimException<atr_String, 1>(text, 0).Throw(file, line);
+}
+
+} // namespace
+
+void cls_RaiseMessage(const cls_MessageTable& table, int code, const char* file, int line)
+{
+    Raise(TextOf(table, code), file, line);
+}
+
+void cls_RaiseMessage(const cls_MessageTable& table, int code, const cow_String& name, const char* file,
+                      int line)
+{
+    atr_String text = TextOf(table, code);
+    if (table.Text(code))
+        text.ReplaceNonTranslated(0, name);
+    Raise(text, file, line);
+}
+
+cls_Catalogue::cls_Catalogue() = default;
+
+cls_Catalogue::~cls_Catalogue() = default;
+
+void cls_Catalogue::AddMessages(unsigned short module, const cls_MessageTable& table)
+{
+    const auto same = [&table](const Messages& known) { return known.table == &table; };
+    if (std::none_of(messages.begin(), messages.end(), same))
+        messages.push_back({module, &table});
+}
+
+void cls_Catalogue::AddLabels(const char* name, std::vector<cls_Label> (*rows)())
+{
+    const auto same = [name](const Labels& known) { return std::strcmp(known.name, name) == 0; };
+    if (std::none_of(labels.begin(), labels.end(), same))
+        labels.push_back({name, rows});
+}

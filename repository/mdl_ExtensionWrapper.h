@@ -1,0 +1,160 @@
+#pragma once
+
+#include "mdl_MapString2ObjCow.h"
+
+namespace mdl_detail
+{
+
+/// How a repository has its wrapper stored.
+template <class R>
+struct WrapperOf;
+
+template <class T>
+struct WrapperOf<mdl_MapString2ObjCow<T>>
+{
+    static constexpr const char* name = mdl_ContainerOf<T>::wrapperName;
+    static constexpr unsigned id = mdl_ContainerOf<T>::wrapperId;
+    static constexpr const char* word = mdl_ContainerOf<T>::word;
+};
+
+} // namespace mdl_detail
+
+namespace cls_kinds
+{
+
+/// A repository held by value in its wrapper. It is described as a map-like collection, as the rows of old
+/// show it.
+template <class R>
+class ContainerKind final : public cls_Kind
+{
+public:
+    constexpr ContainerKind() = default;
+
+    cls_KindEnm Id() const override { return cls_KindEnm::Object; }
+
+    cls_AttributeType Type() const override { return cls_TypeObject; }
+
+    unsigned TypeId() const override { return cls_MapTypeId; }
+
+    cls_CollectionType Collection() const override { return cls_CollectionMapString2Obj; }
+
+    const cls_Description* Of() const override { return &R::Description(); }
+
+    void Write(const void* member, const cls_WriteVisitor& visitor,
+               const cls_FieldHandle& field) const override
+    {
+        const cls_WriteVisitor nested(visitor, field, nullptr, nullptr);
+        static_cast<const R*>(member)->DBWrite(nested);
+    }
+
+    void Read(void* member, const cls_ReadVisitor& visitor, const cls_FieldHandle& field) const override
+    {
+        const cls_ReadVisitor nested(visitor, field);
+        *static_cast<R*>(member) = R(nested);
+    }
+
+    cls_Value Export(const void* member) const override
+    {
+        return R::Description().Export(static_cast<const mdl_Extension*>(static_cast<const R*>(member)));
+    }
+
+    void Import(void* member, const cls_Value& value) const override
+    {
+        R taken;
+        R::Description().Import(static_cast<mdl_Extension*>(&taken), value);
+        *static_cast<R*>(member) = taken;
+    }
+};
+
+} // namespace cls_kinds
+
+template <class T>
+struct cls_KindOf<mdl_MapString2ObjCow<T>>
+{
+    static constexpr cls_kinds::ContainerKind<mdl_MapString2ObjCow<T>> kind{};
+};
+
+/// Plugs a repository into the model: holds a copy of it.
+template <class R>
+class mdl_ExtensionWrapper : public mdl_Extension
+{
+    using Stored = mdl_detail::WrapperOf<R>;
+
+public:
+    using cls_RootClass = mdl_Extension;
+    using cls_Base = mdl_Extension;
+
+    static constexpr bool cls_IsDirect = false;
+    static constexpr int cls_Version = 401;
+    static constexpr int cls_EntryCount = 1;
+
+    static constexpr unsigned TypeId() { return Stored::id; }
+
+    static constexpr cls_Entry cls_EntryAt(std::integral_constant<int, 0>)
+    {
+        return cls_Entry{
+            cls_Entry::Sort::Attribute,
+            -1,
+            "extension",
+            Stored::word,
+            &cls_KindOf<R>::kind,
+            nullptr,
+            [](void* object) -> void*
+            { return &static_cast<mdl_ExtensionWrapper*>(static_cast<mdl_Extension*>(object))->extension; }};
+    }
+
+    static const cls_Description& Description()
+    {
+        static constexpr cls_ClassInfo info = cls_detail::MakeInfo<mdl_ExtensionWrapper>(Stored::name);
+        static const cls_Description description(info);
+        return description;
+    }
+
+    static void InitializeMetadata(cls_ClassRegistrar& registrar)
+    {
+        cls_detail::Describe<mdl_ExtensionWrapper>(registrar);
+    }
+
+    mdl_ExtensionWrapper() { uid.AllocateUid(); }
+
+    /// Holds a copy of `repository`.
+    explicit mdl_ExtensionWrapper(const R& repository) : extension(repository) { uid.AllocateUid(); }
+
+    explicit mdl_ExtensionWrapper(const cls_ReadVisitor& visitor) : mdl_Extension(cls_ReadVisitor(visitor))
+    {
+        Description().ReadAttributes(static_cast<mdl_Extension*>(this), visitor);
+        uid = visitor.GetUid();
+    }
+
+    mdl_ExtensionWrapper(const mdl_ExtensionWrapper&) = default;
+    mdl_ExtensionWrapper& operator=(const mdl_ExtensionWrapper&) = default;
+    ~mdl_ExtensionWrapper() override = default;
+
+    mdl_ExtensionWrapper* Copy() const override { return new mdl_ExtensionWrapper(*this); }
+
+    mdl_Repository* GetValue() override { return &extension; }
+
+    const mdl_Repository* ConstGetValue() const override { return &extension; }
+
+    unsigned DynTypeId() const override { return TypeId(); }
+
+    void DBWrite(const cls_WriteVisitor& visitor) const override
+    {
+        if (!visitor.StartWrite(TypeId(), uid))
+            return;
+        cls_detail::WriteBase(*this, visitor);
+        Description().WriteAttributes(static_cast<const mdl_Extension*>(this), visitor);
+    }
+
+    void NewUid() override
+    {
+        mdl_Extension::NewUid();
+        uid.NewUid();
+    }
+
+    const cls_Uid& Uid() const { return uid; }
+
+private:
+    R extension;
+    cls_Uid uid;
+};
