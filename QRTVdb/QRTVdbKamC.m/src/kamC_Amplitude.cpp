@@ -1,0 +1,3 @@
+#include "kamC_Amplitude.h"
+
+CLS_IMPLEMENT(kamC_Amplitude)
