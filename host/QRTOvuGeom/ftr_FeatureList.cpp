@@ -1,0 +1,3 @@
+#include "ftr_FeatureList.h"
+
+ftr_FeatureList::~ftr_FeatureList() = default;
