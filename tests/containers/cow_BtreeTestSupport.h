@@ -3,95 +3,38 @@
 #include "cow_Btree.h"
 #include "cow_BtreeIterator.h"
 #include "cow_BtreeModel.h"
+#include "cow_Tracked.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
-#include <set>
 #include <sstream>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
-/// Every test gives back all the memory that it takes.
+/// Every test gives back all the memory that it takes, and destroys each element once.
 class MapTest : public testing::Test
 {
 protected:
     void SetUp() override { blocksBefore = mem_BlocksInUse(); }
-    void TearDown() override { EXPECT_EQ(mem_BlocksInUse(), blocksBefore); }
+    void TearDown() override
+    {
+        EXPECT_EQ(mem_BlocksInUse(), blocksBefore);
+        EXPECT_TRUE(tracked.IsClean());
+    }
+
+    /// The tracked elements that are alive.
+    std::size_t Alive() const { return tracked.Live(); }
 
 private:
     std::size_t blocksBefore = 0;
+    TrackedScope tracked;
 };
 
-struct CopyFailure : std::runtime_error
+inline bool operator<(const Tracked& a, const Tracked& b)
 {
-    CopyFailure() : std::runtime_error("copy failure of the test") {}
-};
-
-/// A number that knows all its living instances and fails to copy when it is told to.
-class Tracked
-{
-public:
-    Tracked() { Enter(); }
-    Tracked(int aNumber) : number(aNumber) { Enter(); }
-    Tracked(const Tracked& other) : number(other.number)
-    {
-        CountDown();
-        Enter();
-    }
-    Tracked& operator=(const Tracked& other)
-    {
-        CountDown();
-        number = other.number;
-        return *this;
-    }
-    ~Tracked()
-    {
-        if (Living().erase(this) != 1)
-            ADD_FAILURE() << "destroyed, but not alive";
-    }
-
-    int Number() const { return number; }
-
-    static std::size_t Alive() { return Living().size(); }
-    /// Makes the copy after the next `copies` ones fail; below 0, none.
-    static void FailAfter(int copies) { copiesLeft = copies; }
-    /// True when a copy has failed since FailAfter.
-    static bool HasFailed() { return failed; }
-    static void Relax()
-    {
-        copiesLeft = -1;
-        failed = false;
-    }
-
-    friend bool operator<(const Tracked& a, const Tracked& b) { return a.number < b.number; }
-    friend bool operator==(const Tracked& a, const Tracked& b) { return a.number == b.number; }
-
-private:
-    static std::set<const Tracked*>& Living()
-    {
-        static std::set<const Tracked*> living;
-        return living;
-    }
-
-    static void CountDown()
-    {
-        if (copiesLeft < 0)
-            return;
-        if (copiesLeft-- == 0)
-        {
-            failed = true;
-            throw CopyFailure();
-        }
-    }
-
-    void Enter() { Living().insert(this); }
-
-    static inline int copiesLeft = -1;
-    static inline bool failed = false;
-    int number = 0;
-};
+    return a.Value() < b.Value();
+}
 
 template <>
 class cow_KeyOrder<Tracked>
@@ -99,7 +42,7 @@ class cow_KeyOrder<Tracked>
 public:
     static int Compare(const Tracked& a, const Tracked& b)
     {
-        return cow_KeyOrder<int>::Compare(a.Number(), b.Number());
+        return cow_KeyOrder<int>::Compare(a.Value(), b.Value());
     }
 };
 
