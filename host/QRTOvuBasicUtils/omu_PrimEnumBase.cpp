@@ -11,15 +11,27 @@ constexpr unsigned enumTypeId = 0xB0003;
 constexpr int enumVersion = 203;
 constexpr const char* stringField = "string";
 
+template <class Value>
+[[noreturn]] void Raise(const char* message, Value value, const cow_String& permissible)
+{
+    atr_translate text(message, 0);
+    atr_SubstituteFormat(text, 1, value, 0);
+    atr_SubstituteFormat(text, 2, permissible.CString(), 0);
+    nex_CmdException<atr_String, 2>(text.Result(0), 0)
+        .Throw("QRTOvuOvarisUtilities/ProtectedInterfaces/omu_PrimEnum", __LINE__);
+}
+
 } // namespace
 
-omu_PrimEnumBase::omu_PrimEnumBase()
+omu_PrimEnumBase::omu_PrimEnumBase() : omu_Primitive(omu_PrimKindEnm::Enum)
 {
     uid.AllocateUid();
 }
 
 omu_PrimEnumBase::omu_PrimEnumBase(const cls_ReadVisitor& visitor)
-    : string(visitor.Memento().GetText(cls_FieldHandle(0, stringField))), uid(visitor.GetUid())
+    : omu_Primitive(cls_ReadVisitor(visitor)),
+      string(visitor.Memento().GetText(cls_FieldHandle(0, stringField))),
+      uid(visitor.GetUid())
 {}
 
 omu_PrimEnumBase::~omu_PrimEnumBase() = default;
@@ -31,7 +43,7 @@ unsigned omu_PrimEnumBase::TypeId()
 
 void omu_PrimEnumBase::InitializeMetadata(cls_ClassRegistrar& registrar)
 {
-    registrar.CreateClassMD("omu_PrimEnumBase", enumTypeId, enumVersion, nullptr, cls_RootId)
+    registrar.CreateClassMD("omu_PrimEnumBase", enumTypeId, enumVersion, nullptr, omu_Primitive::TypeId())
         ->AddAttribute(cls_FieldHandle(0, stringField), cls_TypeText, cls_RootId, cls_CollectionNone);
 }
 
@@ -63,29 +75,16 @@ unsigned omu_PrimEnumBase::DynTypeId() const
 
 void omu_PrimEnumBase::DBWrite(const cls_WriteVisitor& visitor) const
 {
-    if (visitor.StartWrite(enumTypeId, uid))
-        visitor.Memento().PutText(cls_FieldHandle(0, stringField), string);
+    if (!visitor.StartWrite(enumTypeId, uid))
+        return;
+    omu_Primitive::DBWrite(cls_WriteVisitor(visitor, omu_Primitive::TypeId()));
+    visitor.Memento().PutText(cls_FieldHandle(0, stringField), string);
 }
 
 cow_String omu_PrimEnumBase::PermissibleValuesAsString() const
 {
     return NamesInOrder();
 }
-
-namespace
-{
-
-template <class Value>
-[[noreturn]] void Raise(const char* message, Value value, const cow_String& permissible)
-{
-    atr_translate text(message, 0);
-    atr_SubstituteFormat(text, 1, value, 0);
-    atr_SubstituteFormat(text, 2, permissible.CString(), 0);
-    nex_CmdException<atr_String, 2>(text.Result(0), 0)
-        .Throw("QRTOvuOvarisUtilities/ProtectedInterfaces/omu_PrimEnum", __LINE__);
-}
-
-} // namespace
 
 void omu_PrimEnumBase::RaiseNotAllowed(const char* message, int value) const
 {

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "cls_Uid.h"
 #include "cow_String.h"
 #include "mem_AllocationOperators.h"
 #include "ovr_Export.h"
 
+class cls_ClassRegistrar;
+class cls_ReadVisitor;
 class cls_WriteVisitor;
 class omu_PrimEnumBase;
 
@@ -15,12 +18,25 @@ public:
     virtual void VisitEnum(omu_PrimEnumBase& primitive) = 0;
 };
 
+/// What a primitive is. The numbers are stored.
+enum class omu_PrimKindEnm : int
+{
+    String = 2,
+    Enum = 3
+};
+
 /// A value on its way between a script and an object. It exists while it is handed over, and has an identity
 /// of its own so that it can be stored.
 class OVR_EXPORT omu_Primitive : public mem_AllocationOperators
 {
 public:
     virtual ~omu_Primitive();
+
+    static unsigned TypeId();
+    static void InitializeMetadata(cls_ClassRegistrar& registrar);
+
+    omu_PrimKindEnm Kind() const { return kind; }
+
     /// The name of the value's type, as messages give it.
     virtual cow_String TypeString() const = 0;
     /// The value as plain text; the argument is 0.
@@ -32,5 +48,17 @@ public:
     /// A new object of the same class with the same fields, owned by the caller.
     virtual omu_Primitive* Copy() const = 0;
     virtual unsigned DynTypeId() const = 0;
+    /// Writes the section of this class; a class with more to store calls it for its base section.
     virtual void DBWrite(const cls_WriteVisitor& visitor) const = 0;
+
+protected:
+    explicit omu_Primitive(omu_PrimKindEnm kind);
+    /// Takes its section from a record.
+    explicit omu_Primitive(const cls_ReadVisitor& visitor);
+    omu_Primitive(const omu_Primitive&) = default;
+    omu_Primitive& operator=(const omu_Primitive&) = default;
+
+private:
+    omu_PrimKindEnm kind;
+    cls_Uid uid;
 };
