@@ -1,6 +1,7 @@
 #include "mem_Allocation.h"
 
 #include "mem_AllocationOperators.h"
+#include "ovr_Export.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -15,7 +16,7 @@
 #include <vector>
 
 /// Lets the C heap of a sanitized build run out as any other does.
-extern "C" const char* __asan_default_options();
+extern "C" OVR_EXPORT const char* __asan_default_options();
 extern "C" const char* __asan_default_options()
 {
     return "allocator_may_return_null=1";
@@ -204,7 +205,7 @@ RC_GTEST_PROP(mem_Allocation, BlocksNeverOverlap, (const std::vector<std::pair<s
 
 /// Takes small blocks in a process too limited for the slab's reserve until there are no more, gives them
 /// back, takes again.
-[[noreturn]] void ExhaustMemory()
+[[noreturn, maybe_unused]] void ExhaustMemory()
 {
     const rlimit limit{std::size_t{1} << 28, std::size_t{1} << 28};
     setrlimit(RLIMIT_AS, &limit);
