@@ -4,7 +4,8 @@
 
 double gsl_Vector::ComputeMagnitude() const
 {
-    return std::hypot(x, y, z);
+    // The three-argument form makes a NaN of an infinity.
+    return std::hypot(std::hypot(x, y), z);
 }
 
 double gsl_ZeroTolerance()

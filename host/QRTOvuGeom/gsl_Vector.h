@@ -10,7 +10,7 @@ struct gsl_Vector
     double y = 0.0;
     double z = 0.0;
 
-    /// Length of the vector; NaN if a component is one.
+    /// Length of the vector: infinite if a component is, else NaN if a component is one.
     OVR_EXPORT double ComputeMagnitude() const;
 
     friend bool operator==(const gsl_Vector&, const gsl_Vector&) = default;
