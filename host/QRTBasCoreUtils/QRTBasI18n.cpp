@@ -86,7 +86,6 @@ cow_String QRTBasI18n::ToLocale(const cow_String& text)
 
 cow_String QRTBasI18n::ToEncoding(const cow_String& text, const char* encoding)
 {
-    // Every encoding that a locale can have holds ASCII as it is.
     if (IsAscii(text) || std::string_view(encoding) == "UTF-8")
         return text;
     Converter converter(encoding);

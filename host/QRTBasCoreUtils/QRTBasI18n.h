@@ -10,7 +10,8 @@ public:
     /// its own, and in a UTF-8 locale the text stays as it is.
     static cow_String ToLocale(const cow_String& text);
 
-    /// `text` in the encoding of this name, as iconv knows it. A character that the encoding lacks becomes
+    /// `text` in the encoding of this name, as iconv knows it, which must hold ASCII as it is, as those of
+    /// all locales do. A character that the encoding lacks becomes
     /// "?", and so does a byte that is not UTF-8. If the encoding itself is unknown, the text stays as it is.
     static cow_String ToEncoding(const cow_String& text, const char* encoding);
 };
