@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <ostream>
 #include <set>
 #include <string>
 #include <string_view>
@@ -37,6 +38,11 @@ struct Module
     typ_ArchCompEntry (*archEntry)();
     std::vector<unsigned> reservedRows;
 };
+
+void PrintTo(const Module& module, std::ostream* stream)
+{
+    *stream << module.prefix << " under " << module.number;
+}
 
 const std::vector<Module>& Modules()
 {
