@@ -2,6 +2,7 @@
 
 #include "cow_COW.h"
 #include "cow_List.h"
+#include "cow_ListIter.h"
 
 #include <benchmark/benchmark.h>
 

@@ -117,21 +117,24 @@ public:
 
     void Append(const T& value)
     {
+        // Read before the branch, so that a loop of calls can keep it in a register.
+        const int countBefore = count;
         if (table == nullptr || Head().backNext == Head().backEnd || *tableShare > 1) [[unlikely]]
             OpenBack();
         ::new (static_cast<void*>(Head().backNext)) T(value);
         ++Head().backNext;
-        ++count;
+        count = countBefore + 1;
     }
 
     void Prepend(const T& value)
     {
+        const int countBefore = count;
         if (table == nullptr || Head().frontNext == Head().frontEnd || *tableShare > 1) [[unlikely]]
             OpenFront();
         ::new (static_cast<void*>(Head().frontNext - 1)) T(value);
         --Head().frontNext;
         --offset;
-        ++count;
+        count = countBefore + 1;
     }
 
     /// Puts `value` before element `i`; `i` may be the count, any other index out of range aborts.
@@ -888,17 +891,18 @@ private:
     /// `from`.
     void MoveDown(int from, int to)
     {
-        while (from < to)
+        const int lastPlace = BlockSize() - 1;
+        int place = from & lastPlace;
+        ListBlock** block = table + (from >> blockShift);
+        for (int left = to - from; left > 0; ++block)
         {
-            T* place = At(from);
-            const int run = std::min(to - from, BlockSize() - 1 - (from & (BlockSize() - 1)));
-            if (run == 0)
-                MoveElement(place, At(++from));
-            else if constexpr (cow_IsRelocatable<T>)
-                RelocateRun(place, place + 1, run);
-            else
-                std::move(place + 1, place + 1 + run, place);
-            from += run;
+            T* data = (*block)->data;
+            const int run = std::min(left, lastPlace - place);
+            MoveRun(data + place + 1, data + place, run);
+            left -= run;
+            if (left-- > 0)
+                MoveElement(data + lastPlace, block[1]->data);
+            place = 0;
         }
     }
 
@@ -906,18 +910,30 @@ private:
     /// `to`.
     void MoveUp(int from, int to)
     {
-        while (from < to)
+        const int lastPlace = BlockSize() - 1;
+        int place = to & lastPlace;
+        ListBlock** block = table + (to >> blockShift);
+        for (int left = to - from; left > 0; --block)
         {
-            T* place = At(to);
-            const int run = std::min(to - from, to & (BlockSize() - 1));
-            if (run == 0)
-                MoveElement(place, At(--to));
-            else if constexpr (cow_IsRelocatable<T>)
-                RelocateRun(place - run + 1, place - run, run);
-            else
-                std::move_backward(place - run, place, place + 1);
-            to -= run;
+            T* data = (*block)->data;
+            const int run = std::min(left, place);
+            MoveRun(data + place - run, data + place - run + 1, run);
+            left -= run;
+            if (left-- > 0)
+                MoveElement(data, block[-1]->data + lastPlace);
+            place = lastPlace;
         }
+    }
+
+    /// The `n` elements at `first` go to `to`, one place lower or higher.
+    static void MoveRun(T* first, T* to, int n)
+    {
+        if constexpr (cow_IsRelocatable<T>)
+            RelocateRun(to, first, n);
+        else if (to < first)
+            std::move(first, first + n, to);
+        else
+            std::move_backward(first, first + n, to + n);
     }
 
     static void MoveElement(T* to, T* from)
@@ -1071,59 +1087,4 @@ private:
     ListBlock* const* slot = nullptr;
     int left = 0;
     int blockSize = 0;
-};
-
-/// Forward iterator that holds a share of the list: a change of the list during iteration leaves the iterator
-/// on the old content.
-///
-///     for (cow_ListIter<int> iter(list); !iter.AtEnd(); iter.Next())
-///         Use(iter.Element());
-template <class T>
-class cow_ListIter
-{
-public:
-    /// Stands at the first element.
-    explicit cow_ListIter(const cow_List<T>& source)
-        : list(source), end(list.count + list.offset), blockSize(list.BlockSize())
-    {
-        First();
-    }
-
-    /// Goes to the first element.
-    void First()
-    {
-        position = list.offset;
-        place = position & (blockSize - 1);
-        data = list.count == 0 ? nullptr : BlockData();
-    }
-
-    /// Goes to the next element. Must not be called at the end.
-    void Next()
-    {
-        if (++position == end)
-            data = nullptr;
-        else if (++place == blockSize)
-        {
-            place = 0;
-            data = BlockData();
-        }
-    }
-
-    bool AtEnd() const { return data == nullptr; }
-    /// The element to read. Must not be called at the end.
-    const T& Element() const { return data[place]; }
-    /// Position of the element, counted as the list's offset is.
-    int Position() const { return position; }
-    /// Index of the element.
-    int Index() const { return position - list.offset; }
-
-private:
-    const T* BlockData() const { return list.table[position >> list.blockShift]->data; }
-
-    cow_List<T> list;
-    int end;
-    int blockSize;
-    int position;
-    int place;
-    const T* data;
 };

@@ -1,6 +1,7 @@
 // Random operations on a list with live copies and live iterators, against std::vector.
 
 #include "cow_List.h"
+#include "cow_ListIter.h"
 
 #include "cow_Tracked.h"
 

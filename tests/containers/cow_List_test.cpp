@@ -1,4 +1,5 @@
 #include "cow_List.h"
+#include "cow_ListIter.h"
 
 #include "cow_Tracked.h"
 
