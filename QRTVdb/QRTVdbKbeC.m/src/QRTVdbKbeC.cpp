@@ -1,0 +1,27 @@
+#include "QRTVdbKbeC.h"
+
+#include "kbeC_AssertContent.h"
+
+namespace
+{
+
+constexpr unsigned short moduleNumber = 680;
+
+int moduleCount = 0;
+
+} // namespace
+
+void QRTVdbKbeC_initialize(int& tally)
+{
+    if (!cls_StepUp(moduleCount, tally))
+        return;
+    typ_ArchCompTable::InsertEntry(moduleNumber, kbeC_ArchEntry());
+    omi_Singleton<cls_Catalogue>::Instance()->AddMessages(moduleNumber, kbeC_ContentMessages);
+}
+
+void QRTVdbKbeC_finalize(int& tally)
+{
+    cls_StepDown(moduleCount, tally);
+}
+
+void kbeC_formalize() {}
