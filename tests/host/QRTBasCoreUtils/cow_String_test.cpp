@@ -5,7 +5,9 @@
 
 #include <climits>
 #include <cstdlib>
+#include <gtest/gtest.h>
 #include <limits>
+
 #include <rapidcheck/gtest.h>
 #include <string>
 #include <type_traits>

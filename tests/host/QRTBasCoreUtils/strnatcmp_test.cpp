@@ -1,6 +1,7 @@
 #include "strnatcmp.h"
 
 #include <cstring>
+#include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 #include <string>
 

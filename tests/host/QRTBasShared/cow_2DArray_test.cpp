@@ -2,8 +2,10 @@
 
 #include <climits>
 #include <cmath>
+#include <gtest/gtest.h>
 #include <limits>
 #include <numeric>
+
 #include <rapidcheck/gtest.h>
 
 namespace

@@ -1,7 +1,9 @@
 #include "cow_IntMultiMapInt.h"
 
 #include <climits>
+#include <gtest/gtest.h>
 #include <map>
+
 #include <rapidcheck/gtest.h>
 #include <vector>
 

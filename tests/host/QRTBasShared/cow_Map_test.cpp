@@ -3,7 +3,9 @@
 #include "atr_String.h"
 #include "cow_2DArray.h"
 
+#include <gtest/gtest.h>
 #include <map>
+
 #include <rapidcheck/gtest.h>
 #include <string>
 
