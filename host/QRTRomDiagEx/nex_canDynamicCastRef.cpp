@@ -8,13 +8,15 @@
 
 namespace
 {
-/// A class as "kamC_Decay (0x2440003)"; one that the type table does not have is an "unknown class".
+/// "class kamC_Decay (0x2440003)", or "an unknown class (0x2440003)" for one that the type table does not
+/// have.
 cow_String Describe(unsigned classId)
 {
     char id[16];
     std::snprintf(id, sizeof id, " (0x%X)", classId);
     const char* name = typ_ArchCompTable::GetName(classId);
-    return cow_String(*name == '\0' ? "unknown class" : name).append(id);
+    cow_String text(*name == '\0' ? "an unknown class" : "class ");
+    return text.append(name).append(id);
 }
 } // namespace
 
@@ -22,7 +24,7 @@ void nex_canDynamicCastRef(unsigned expected, unsigned actual, const char* file,
 {
     if (expected == actual || typ_ArchCompTable::IsParent(expected, actual))
         return;
-    atr_translate text("Expected an object of class %s, found one of class %s.", 0);
+    atr_translate text("Expected an object of %s, found one of %s.", 0);
     atr_SubstituteFormat(text, 1, Describe(expected).CString(), 0);
     atr_SubstituteFormat(text, 2, Describe(actual).CString(), 0);
     nex_CmdException<atr_String, 2>(text.Result(0), 0).Throw(file, line);

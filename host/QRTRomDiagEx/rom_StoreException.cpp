@@ -8,7 +8,7 @@ cow_String Describe(const cow_String& file, const cow_String& table, std::int64_
                     const cow_String& field, const cow_String& message)
 {
     cow_String text(file);
-    const char* separator = ": ";
+    const char* separator = file.IsEmpty() ? "" : ": ";
     const auto add = [&](const char* word, const cow_String& part)
     {
         if (part.IsEmpty())

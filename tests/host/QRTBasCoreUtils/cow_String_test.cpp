@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <limits>
-
 #include <rapidcheck/gtest.h>
 #include <string>
 #include <type_traits>

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <numeric>
-
 #include <rapidcheck/gtest.h>
 
 namespace

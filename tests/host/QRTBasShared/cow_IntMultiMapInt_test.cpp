@@ -3,7 +3,6 @@
 #include <climits>
 #include <gtest/gtest.h>
 #include <map>
-
 #include <rapidcheck/gtest.h>
 #include <vector>
 

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 #include <map>
-
 #include <rapidcheck/gtest.h>
 #include <string>
 
