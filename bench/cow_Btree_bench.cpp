@@ -5,73 +5,23 @@
 #include "cow_Btree.h"
 #include "cow_BtreeBuilder.h"
 #include "cow_BtreeIterator.h"
+#include "cow_String.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstdio>
-#include <cstring>
 #include <malloc.h>
 #include <map>
 #include <numeric>
 #include <random>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 #ifdef OVR_BENCH_QMAP
 #include <QByteArray>
 #include <QMap>
 #endif
-
-namespace
-{
-/// Shared text as the keys of models are: one pointer at a counted buffer.
-class Text
-{
-public:
-    Text() = default;
-    explicit Text(const std::string& text)
-        : buffer(static_cast<Buffer*>(mem_OperatorNewThrow(sizeof(int) + text.size() + 1)))
-    {
-        buffer->count = 1;
-        std::memcpy(buffer->text, text.c_str(), text.size() + 1);
-    }
-    Text(const Text& other) : buffer(other.buffer)
-    {
-        if (buffer != nullptr)
-            ++buffer->count;
-    }
-    Text& operator=(const Text& other)
-    {
-        Text copy(other);
-        std::swap(buffer, copy.buffer);
-        return *this;
-    }
-    ~Text()
-    {
-        if (buffer != nullptr && --buffer->count == 0)
-            mem_Free(buffer);
-    }
-
-    const char* Raw() const { return buffer == nullptr ? "" : buffer->text; }
-
-    static std::size_t Bytes(std::size_t length) { return sizeof(int) + length + 1; }
-
-private:
-    struct Buffer
-    {
-        int count;
-        char text[1];
-    };
-    Buffer* buffer = nullptr;
-};
-} // namespace
-
-template <>
-class cow_KeyOrder<Text>
-{
-public:
-    static int Compare(const Text& a, const Text& b) { return std::strcmp(a.Raw(), b.Raw()); }
-};
 
 namespace
 {
@@ -91,6 +41,7 @@ K MakeKey(int number)
         return K(Name(number).c_str());
 }
 
+/// What a block of `size` bytes takes up in the slab.
 std::size_t BlockBytes(std::size_t size)
 {
     return size <= 4 ? 4 : size <= 8 ? 8 : (size + 15) / 16 * 16;
@@ -132,8 +83,8 @@ struct Ours
         double bytes =
             static_cast<double>(BlockBytes(sizeof(typename Map::Node)) +
                                 BlockBytes(sizeof(typename Map::Handle)) + BlockBytes(sizeof(int)));
-        if constexpr (std::is_same_v<K, Text>)
-            bytes += static_cast<double>(BlockBytes(Text::Bytes(Name(0).size())));
+        if constexpr (std::is_same_v<K, cow_String>)
+            bytes += static_cast<double>(BlockBytes(sizeof(atr_StringHeader) + Name(0).size() + 1));
         return bytes;
     }
 };
@@ -411,7 +362,7 @@ void Register(const std::string& key)
 
 const bool registered = []
 {
-    Register<Ours<Text>>("text");
+    Register<Ours<cow_String>>("text");
     Register<Standard<std::string>>("text");
     Register<Ours<int>>("int");
     Register<Standard<int>>("int");

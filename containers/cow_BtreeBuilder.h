@@ -2,6 +2,7 @@
 
 #include "cow_Btree.h"
 
+#include <bit>
 #include <utility>
 
 /// Builds a map from entries that mostly come in ascending order, as a reader delivers them. Keys that do are
@@ -65,19 +66,18 @@ private:
         end = &chain;
     }
 
-    /// A tree of the next `n` nodes of the chain, its two sides as equal as can be.
+    /// A tree of the next `n` nodes of the chain, at least one, its two sides as equal as can be.
     Handle* Take(int n)
     {
-        if (n == 0)
-            return nullptr;
         const int lower = n / 2;
-        Handle* left = Take(lower);
+        const int higher = n - lower - 1;
+        Handle* left = lower == 0 ? nullptr : Take(lower);
         Handle* top = chain;
         Node* node = top->Get();
         chain = node->right;
         node->left = left;
-        node->right = Take(n - lower - 1);
-        node->ComputeHeight();
+        node->right = higher == 0 ? nullptr : Take(higher);
+        node->height = std::bit_width(static_cast<unsigned>(n)) - 1;
         return top;
     }
 

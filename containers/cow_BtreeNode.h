@@ -231,13 +231,26 @@ private:
         return node;
     }
 
-    static int HeightOrZero(const Handle* handle) { return handle == nullptr ? 0 : (*handle)->height; }
-
     static int HeightAbove(const Handle* handle) { return handle == nullptr ? 0 : (*handle)->height + 1; }
 
-    int Lean() const { return HeightOrZero(right) - HeightOrZero(left); }
+    /// How much taller the right child is than the left, where an absent child is as tall as a leaf.
+    static int LeanOf(int aboveLeft, int aboveRight)
+    {
+        return std::max(aboveRight, 1) - std::max(aboveLeft, 1);
+    }
 
-    void ComputeHeight() { height = std::max(HeightAbove(left), HeightAbove(right)); }
+    static bool IsTooMuch(int lean) { return lean < -1 || lean > 1; }
+
+    int Lean() const { return LeanOf(HeightAbove(left), HeightAbove(right)); }
+
+    /// Recomputes the height, and returns the lean.
+    int ComputeHeight()
+    {
+        const int aboveLeft = HeightAbove(left);
+        const int aboveRight = HeightAbove(right);
+        height = std::max(aboveLeft, aboveRight);
+        return LeanOf(aboveLeft, aboveRight);
+    }
 
     [[gnu::noinline]] Handle* Rotate(Handle* self, Handle* cow_BtreeNode::*tall, Handle* cow_BtreeNode::*low)
     {
@@ -253,9 +266,12 @@ private:
     /// still, so it is made private before it is changed.
     static void BalanceSlot(Handle*& slot)
     {
-        const int lean = (*slot)->Lean();
-        if (lean >= -1 && lean <= 1)
-            return;
+        if (IsTooMuch((*slot)->Lean()))
+            RotateSlot(slot);
+    }
+
+    static void RotateSlot(Handle*& slot)
+    {
         cow_BtreeNode* node = Writable(slot);
         slot = node->Balance(slot);
     }
@@ -265,14 +281,18 @@ private:
     static void Rebalance(const Path& path)
     {
         int level = path.Depth() - 1;
+        if (level < 0)
+            return;
+        const Handle* changed = *path[level].slot;
+        int lean = changed == nullptr ? 0 : (*changed)->Lean();
         try
         {
             for (; level >= 0; --level)
             {
                 const auto& step = path[level];
-                if (*step.slot != nullptr)
-                    BalanceSlot(*step.slot);
-                step.node->ComputeHeight();
+                if (IsTooMuch(lean)) [[unlikely]]
+                    RotateSlot(*step.slot);
+                lean = step.node->ComputeHeight();
             }
         }
         catch (...)
