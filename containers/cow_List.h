@@ -531,14 +531,21 @@ private:
         void* storage = mem_OperatorNewTinyThrow(sizeof(ListBlock));
         try
         {
-            auto* data = static_cast<T*>(mem_Malloc(sizeof(T) << blockShift));
-            return ::new (storage) ListBlock{1, data};
+            return ::new (storage) ListBlock{1, static_cast<T*>(NewData())};
         }
         catch (...)
         {
             mem_Free(storage);
             throw;
         }
+    }
+
+    void* NewData() const
+    {
+        // A size known to the compiler takes the shorter way through the slab.
+        if (blockShift == newBlockShift) [[likely]]
+            return mem_Malloc(sizeof(T) << newBlockShift);
+        return mem_Malloc(sizeof(T) << blockShift);
     }
 
     static void FreeBlock(ListBlock* block) noexcept
