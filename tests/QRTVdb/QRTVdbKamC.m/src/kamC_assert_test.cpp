@@ -1,3 +1,4 @@
+#include "MessageTest.h"
 #include "kamC_TimeLabelMap.h"
 #include "kamC_TypeLabelMap.h"
 #include "kamC_assert.h"
@@ -9,19 +10,9 @@
 namespace
 {
 
-std::string MessageOf(int code)
+std::string Message(int code)
 {
-    try
-    {
-        kamC_Assert(false, code);
-    }
-    catch (const nex_PrimException<atr_String, 1>& exception)
-    {
-        EXPECT_STREQ("QRTVdb/QRTVdbKamC.m/src/kamC_assert", exception.File());
-        EXPECT_GT(exception.Line(), 0);
-        return exception.what();
-    }
-    return "nothing thrown";
+    return MessageOf("QRTVdb/QRTVdbKamC.m/src/kamC_assert", [code] { kamC_Assert(false, code); });
 }
 
 TEST(kamC_Assert, ReturnsOnTrueWhateverTheCode)
@@ -69,13 +60,13 @@ TEST(kamC_Assert, ThrowsTheTextOfTheCode)
     };
     ASSERT_EQ(32u, std::size(texts));
     for (int code = 0; code < 32; ++code)
-        EXPECT_EQ(texts[code], MessageOf(code)) << code;
+        EXPECT_EQ(texts[code], Message(code)) << code;
 }
 
 TEST(kamC_Assert, ThrowsAnEmptyTextForAnUnknownCode)
 {
     for (const int code : {-1, 32, 99, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()})
-        EXPECT_EQ("", MessageOf(code)) << code;
+        EXPECT_EQ("", Message(code)) << code;
 }
 
 TEST(kamC_TypeLabelMap, LabelsOneToEleven)
