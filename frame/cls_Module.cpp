@@ -12,16 +12,22 @@ atr_String TextOf(const cls_MessageTable& table, int code)
     return text ? atr_raw(text, 0) : atr_String();
 }
 
-[[noreturn]] void Raise(const atr_String& text, const char* file, int line)
-{
-    nex_PrimException<atr_String, 1>(text, 0).Throw(file, line);
-}
-
 } // namespace
+
+cls_RuleException::cls_RuleException(const atr_String& text, const cls_MessageTable& table, int code) noexcept
+    : nex_PrimException<atr_String, 1>(text, 0), table(&table), code(code)
+{}
+
+cls_RuleException::~cls_RuleException() = default;
+
+void cls_RuleException::Raise() const
+{
+    throw cls_RuleException(*this);
+}
 
 void cls_RaiseMessage(const cls_MessageTable& table, int code, const char* file, int line)
 {
-    Raise(TextOf(table, code), file, line);
+    cls_RuleException(TextOf(table, code), table, code).Throw(file, line);
 }
 
 void cls_RaiseMessage(const cls_MessageTable& table, int code, const cow_String& name, const char* file,
@@ -30,7 +36,7 @@ void cls_RaiseMessage(const cls_MessageTable& table, int code, const cow_String&
     atr_String text = TextOf(table, code);
     if (table.Text(code))
         text.ReplaceNonTranslated(0, name);
-    Raise(text, file, line);
+    cls_RuleException(text, table, code).Throw(file, line);
 }
 
 cls_Catalogue::cls_Catalogue() = default;

@@ -49,8 +49,33 @@ struct cls_MessageTable
     const char* Text(int code) const { return code >= 0 && code < count ? texts[code] : nullptr; }
 };
 
-/// Throws `nex_PrimException<atr_String, 1>` with the text of `code`; an unknown code throws with an empty
-/// text. `file` and `line` are the place that the exception records.
+/// A rule that an object breaks, as the module assert functions throw it: callers that only show the text
+/// catch it as its base, programs that tell rules apart ask for table and code.
+class OVR_EXPORT cls_RuleException : public nex_PrimException<atr_String, 1>
+{
+public:
+    /// `table` must outlive the exception.
+    cls_RuleException(const atr_String& text, const cls_MessageTable& table, int code) noexcept;
+    cls_RuleException(const cls_RuleException&) noexcept = default;
+    cls_RuleException& operator=(const cls_RuleException&) noexcept = default;
+    ~cls_RuleException() override;
+
+    /// The assert function's messages.
+    const cls_MessageTable& Table() const noexcept { return *table; }
+
+    /// The code that the rule gave; it may lie outside the table.
+    int Code() const noexcept { return code; }
+
+protected:
+    [[noreturn]] void Raise() const override;
+
+private:
+    const cls_MessageTable* table;
+    int code;
+};
+
+/// Throws `cls_RuleException` with the text of `code`; an unknown code throws with an empty text. `file` and
+/// `line` are the place that the exception records.
 [[noreturn]] OVR_EXPORT void cls_RaiseMessage(const cls_MessageTable& table, int code, const char* file,
                                               int line);
 /// The same for a table whose texts have one "%s", in whose place `name` is put untranslated.

@@ -4,13 +4,14 @@
 #include "cls_ObjectCollections.h"
 #include "cow_BtreeUtils.h"
 #include "mdl_ContainerOf.h"
+#include "mdl_NamedObjects.h"
 #include "mdl_Repository.h"
 #include "omi_gettimecounter.h"
 
 /// The model's objects of one family by name. Beyond a map it keeps the time of its last change and the names
 /// changed since it was built.
 template <class T>
-class mdl_MapString2ObjCow : public mdl_Repository
+class mdl_MapString2ObjCow : public mdl_Repository, public mdl_NamedObjects
 {
     using Container = mdl_ContainerOf<T>;
 
@@ -161,6 +162,36 @@ public:
     Map& GetMap() { return map; }
 
     const Map& ConstGetMap() const { return map; }
+
+    const cls_Description& ObjectRoot() const override { return T::Description(); }
+
+    std::vector<std::string> ObjectNames() const override
+    {
+        std::vector<std::string> names;
+        for (const cow_String& name : Keys())
+            names.emplace_back(name.CString());
+        return names;
+    }
+
+    const void* ConstObject(const std::string& name) const override { return ConstGet(name.c_str()); }
+
+    void* Object(const std::string& name) override { return Get(name.c_str()); }
+
+    bool InsertObject(const std::string& name, cls_AnyObject object) override
+    {
+        return Insert(name.c_str(), static_cast<T*>(object.Release()));
+    }
+
+    bool RemoveObject(const std::string& name) override { return Remove(name.c_str()); }
+
+    bool RenameObject(const std::string& from, const std::string& to) override
+    {
+        const Handle* found = map.ConstFind(from.c_str());
+        if (!found)
+            return false;
+        const Handle object = *found;
+        return Remove(from.c_str()) && Insert(to.c_str(), object);
+    }
 
     /// Names changed since the repository was built, in order.
     cow_List<cow_String> DeltaList() { return cow_BtreeUtils<cow_String, unsigned>::cow_Keys(delta); }
