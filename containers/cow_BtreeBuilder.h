@@ -52,7 +52,7 @@ private:
     void Chain(Handle* handle)
     {
         *end = handle;
-        last = handle->Get();
+        last = Node::Owned(handle);
         end = &last->right;
         ++length;
     }
@@ -73,7 +73,7 @@ private:
         const int higher = n - lower - 1;
         Handle* left = lower == 0 ? nullptr : Take(lower);
         Handle* top = chain;
-        Node* node = top->Get();
+        Node* node = Node::Owned(top);
         chain = node->right;
         node->left = left;
         node->right = higher == 0 ? nullptr : Take(higher);

@@ -176,7 +176,7 @@ private:
     {
         while (top != nullptr)
         {
-            cow_BtreeNode* node = top->Get();
+            cow_BtreeNode* node = Owned(top);
             Handle* lower = node->left;
             if (lower == nullptr)
             {
@@ -187,7 +187,7 @@ private:
             }
             else if (IsLast(lower))
             {
-                node->left = std::exchange(lower->Get()->right, top);
+                node->left = std::exchange(Owned(lower)->right, top);
                 top = lower;
             }
             else
@@ -211,8 +211,11 @@ private:
     {
         if (slot->ShareCount() != 1)
             Unshare(slot);
-        return slot->Get();
+        return Owned(slot);
     }
+
+    /// The node of a handle that is known not to be shared: its count lies elsewhere and need not be loaded.
+    static cow_BtreeNode* Owned(Handle* handle) { return const_cast<cow_BtreeNode*>(handle->ConstGet()); }
 
     [[gnu::noinline]] static void Unshare(Handle*& slot)
     {
