@@ -4,6 +4,7 @@
 #include "cls_MetadataRegistrar.h"
 #include "ddr_Model.h"
 #include "mdl_PropertyTable.h"
+#include "mdl_Repository.h"
 #include "rgnC_RegionPair.h"
 #include "typ_ArchCompTable.h"
 
@@ -45,6 +46,8 @@ void QRTVdbCoreGeom_initialize(int& tally)
     typ_ArchCompTable::InsertEntry(regionModuleNumber,
                                    typ_ArchCompEntry(regionTypes, std::size(regionTypes)));
     cls_MetadataRegistrar& registrar = *omi_Singleton<cls_MetadataRegistrar>::Instance();
+    registrar.initClassMetadata(mdl_Extension::InitializeMetadata);
+    registrar.initClassMetadata(mdl_Repository::InitializeMetadata);
     registrar.initClassMetadata(rgnC_Region::InitializeMetadata);
     registrar.initClassMetadata(rgnC_RegionPair::InitializeMetadata);
     registrar.initClassMetadata(mdl_PropertyTable::InitializeMetadata);

@@ -85,6 +85,18 @@ TEST_F(QRTVdbCoreGeomTest, EveryClassIsDescribedAndCanBeBuilt)
     }
 }
 
+TEST_F(QRTVdbCoreGeomTest, TheBasesOfContainersAreDescribed)
+{
+    cls_MetadataRegistrar& registrar = *omi_Singleton<cls_MetadataRegistrar>::Instance();
+    const cls_ClassMetadata* extension = registrar.Find(mdl_Extension::TypeId());
+    const cls_ClassMetadata* repository = registrar.Find(mdl_Repository::TypeId());
+    ASSERT_NE(extension, nullptr);
+    ASSERT_NE(repository, nullptr);
+    EXPECT_EQ(repository->BaseClassId(), extension->ClassId());
+    EXPECT_FALSE(extension->IsConcrete());
+    EXPECT_FALSE(repository->IsConcrete());
+}
+
 TEST_F(QRTVdbCoreGeomTest, ClassesAgreeWithTheirIds)
 {
     EXPECT_EQ(gsl_Dot::TypeId(), 0x280001u);

@@ -119,8 +119,6 @@ void DescribeTestContainers()
 {
     typ_ArchCompTable::InsertEntry(moduleNumber, typ_ArchCompEntry(types, std::size(types)));
     cls_MetadataRegistrar& registrar = *omi_Singleton<cls_MetadataRegistrar>::Instance();
-    registrar.initClassMetadata(mdl_Extension::InitializeMetadata);
-    registrar.initClassMetadata(mdl_Repository::InitializeMetadata);
     registrar.initClassMetadata(TestRepository::InitializeMetadata);
     registrar.initClassMetadata(TestContainer::InitializeMetadata);
     registrar.initClassMetadata(OtherContainer::InitializeMetadata);
