@@ -9,11 +9,12 @@ namespace
 {
 constexpr std::size_t blockStep = 16;
 constexpr std::size_t overhead = sizeof(atr_StringHeader) + 1;
+constexpr std::size_t longest = INT_MAX - overhead - blockStep;
 
 /// A header with room for `length` characters and a null behind it, held by one string.
 atr_StringHeader* NewHeader(std::size_t length)
 {
-    if (length > INT_MAX - overhead - blockStep)
+    if (length > longest)
         throw std::length_error("A text of 2^31 characters or more cannot be held.");
     const std::size_t bytes = (length + overhead + blockStep - 1) / blockStep * blockStep;
     return ::new (mem_Malloc(bytes))
@@ -77,7 +78,7 @@ void atr_StringBase::Append(const char* source, std::size_t count)
         return;
     }
     atr_StringBase grown;
-    grown.header = NewHeader(std::max(total, length + length / 2));
+    grown.header = NewHeader(std::max(total, std::min(2 * length, longest)));
     char* characters = Characters(grown.header);
     grown.text = characters;
     std::memcpy(characters, text, length);
