@@ -65,10 +65,10 @@ TEST(strnatcmp, EqualTextsAreEqual)
     EXPECT_EQ(strnatcmp("a10b", "a10b"), 0);
 }
 
-/// Short texts of few different characters, so that ties and near ties are frequent.
+/// Texts so short and of so few characters that ties and near ties are frequent.
 rc::Gen<std::string> Texts()
 {
-    return rc::gen::container<std::string>(rc::gen::element('0', '0', '1', '2', '9', 'a', 'b', '-', '\xC3'));
+    return rc::gen::resize(3, rc::gen::container<std::string>(rc::gen::element('0', '1', 'a', '\xC3')));
 }
 
 RC_GTEST_PROP(strnatcmp, IsATotalOrder, ())
