@@ -1,0 +1,118 @@
+#include "DDB_DeepCopyPtr.h"
+#include "LibraryEnvironment.h"
+#include "kamC_AmplitudeContainer.h"
+#include "kamC_Decay.h"
+#include "kamC_Tabular.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using AmplitudeHandle = cow_ArrayCOW<kamC_Amplitude, cow_Virtual<kamC_Amplitude>>;
+using AmplitudeMap = cls_xcBtree<cow_String, AmplitudeHandle, kamC_Amplitude>;
+using AmplitudeList = cls_xc1DArrayList<AmplitudeHandle, kamC_Amplitude>;
+
+TEST(Wrapper, TakesANewIdentityWithANewValue)
+{
+    AmplitudeMap map;
+    const cls_Uid first = map.Uid();
+    EXPECT_FALSE(first.IsBlank());
+    map = cow_Btree<cow_String, AmplitudeHandle>();
+    EXPECT_NE(first, map.Uid());
+
+    AmplitudeList list;
+    const cls_Uid firstOfList = list.Uid();
+    list = cow_List<AmplitudeHandle>();
+    EXPECT_NE(firstOfList, list.Uid());
+}
+
+TEST(Wrapper, LeavesEverythingAsItIsWhenAssignedToItself)
+{
+    AmplitudeMap map;
+    map.InsertUnlessMember("a", AmplitudeHandle(new kamC_Decay));
+    const cls_Uid uid = map.Uid();
+    AmplitudeMap& same = map;
+    map = same;
+    EXPECT_EQ(uid, map.Uid());
+    EXPECT_EQ(1, map.Count());
+    map = static_cast<const cow_Btree<cow_String, AmplitudeHandle>&>(same);
+    EXPECT_EQ(uid, map.Uid());
+    EXPECT_EQ(1, map.Count());
+}
+
+TEST(Wrapper, KeepsItsIdentityInACopy)
+{
+    AmplitudeList list;
+    list.Append(AmplitudeHandle(new kamC_Decay));
+    const AmplitudeList copy(list);
+    EXPECT_EQ(list.Uid(), copy.Uid());
+    EXPECT_EQ(1, copy.Count());
+}
+
+TEST(Repository, KeepsAnEmptyHandleThroughTheStore)
+{
+    LibraryEnvironment::Require();
+    kamC_AmplitudeContainer container;
+    EXPECT_TRUE(container.Insert("empty", AmplitudeHandle()));
+    EXPECT_TRUE(container.Insert("full", new kamC_Decay));
+    const std::unique_ptr<kamC_AmplitudeContainer> read(container.DeepCopy());
+    EXPECT_EQ(2, read->Size());
+    EXPECT_TRUE(read->IsMember("empty"));
+    EXPECT_EQ(nullptr, read->ConstGet("empty"));
+    ASSERT_NE(nullptr, read->ConstGet("full"));
+    EXPECT_EQ(kamC_Decay::TypeId(), read->ConstGet("full")->DynTypeId());
+}
+
+TEST(Repository, KeepsSharingThroughTheStore)
+{
+    LibraryEnvironment::Require();
+    kamC_AmplitudeContainer container;
+    const AmplitudeHandle shared(new kamC_Tabular);
+    EXPECT_TRUE(container.Insert("one", shared));
+    EXPECT_TRUE(container.Insert("two", shared));
+    const std::unique_ptr<kamC_AmplitudeContainer> read(container.DeepCopy());
+    EXPECT_EQ(read->ConstGet("one"), read->ConstGet("two"));
+    EXPECT_NE(container.ConstGet("one"), read->ConstGet("one"));
+    EXPECT_EQ(2, read->ConstGetMap().ConstFind("one")->ShareCount());
+}
+
+TEST(Repository, KeepsTwoObjectsOfOneIdentity)
+{
+    LibraryEnvironment::Require();
+    kamC_Decay decay;
+    decay.initial = 1.0;
+    kamC_AmplitudeContainer container;
+    EXPECT_TRUE(container.Insert("one", decay));
+    decay.initial = 2.0;
+    EXPECT_TRUE(container.Insert("two", decay));
+    const auto initialOf = [](const kamC_AmplitudeContainer& amplitudes, const char* name)
+    { return static_cast<const kamC_Decay*>(amplitudes.ConstGet(name))->initial; };
+    const auto uidOf = [](const kamC_AmplitudeContainer& amplitudes, const char* name)
+    { return static_cast<const kamC_Decay*>(amplitudes.ConstGet(name))->Uid(); };
+    EXPECT_EQ(uidOf(container, "one"), uidOf(container, "two"));
+    const std::unique_ptr<kamC_AmplitudeContainer> read(container.DeepCopy());
+    EXPECT_EQ(1.0, initialOf(*read, "one"));
+    EXPECT_EQ(2.0, initialOf(*read, "two"));
+    EXPECT_NE(uidOf(*read, "one"), uidOf(*read, "two")) << "the second gets a fresh identity";
+    EXPECT_EQ(uidOf(container, "one"), uidOf(*read, "one"));
+}
+
+TEST(Optional, StaysEmptyThroughTheStore)
+{
+    LibraryEnvironment::Require();
+    kamC_Tabular tabular;
+    const std::unique_ptr<kamC_Tabular> without(tabular.DeepCopy());
+    EXPECT_TRUE(without->baselineCorrection.IsNull());
+    EXPECT_EQ(1, without->baselineCorrection.ShareCount());
+    kamC_BaselineCorrection correction;
+    correction.intervals.Append(1.5);
+    tabular.baselineCorrection = kamC_BaselineCorrectionHandle(correction);
+    const std::unique_ptr<kamC_Tabular> with(tabular.DeepCopy());
+    ASSERT_FALSE(with->baselineCorrection.IsNull());
+    EXPECT_EQ(1, with->baselineCorrection.ShareCount());
+    EXPECT_EQ(1.5, with->baselineCorrection->intervals[0]);
+    EXPECT_NE(tabular.baselineCorrection.ConstGet(), with->baselineCorrection.ConstGet());
+}
+
+} // namespace
