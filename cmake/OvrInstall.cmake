@@ -9,7 +9,10 @@ get_property(layers GLOBAL PROPERTY OVR_LAYERS)
 foreach(layer IN LISTS layers)
     get_property(dir GLOBAL PROPERTY OVR_LAYER_DIR_${layer})
     file(GLOB headers CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${dir}/*.h")
-    install(FILES ${headers} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ovr/${layer}")
+    set(include_dir "${CMAKE_INSTALL_INCLUDEDIR}/ovr/${layer}")
+    # A folder without headers is an include directory all the same, and must exist.
+    install(DIRECTORY DESTINATION "${include_dir}")
+    install(FILES ${headers} DESTINATION "${include_dir}")
 endforeach()
 
 set(installed_targets ${layers})

@@ -1,5 +1,6 @@
 #include "QRTVdbAttrEO2.h"
 #include "kamC_Tabular.h"
+#include "nex_Exceptions.h"
 
 #include <cstdio>
 
@@ -21,7 +22,7 @@ int main()
         {
             ramp.AssertValid();
         }
-        catch (const QRTBasException&)
+        catch (const nex_PrimException<atr_String, 1>&)
         {
             refused = true;
         }
