@@ -1,11 +1,23 @@
 #include "QRTRomCore.h"
 
-#include "QRTRomDiagEx.h"
+#include "QRTRfmInterface.h"
 #include "cls_MetadataRegistrar.h"
 #include "dbc_OldClassRegistrar.h"
+#include "typ_ArchCompTable.h"
+
+#include <iterator>
 
 namespace
 {
+constexpr unsigned short collectionModuleNumber = 35;
+
+/// The classes under which collections have their rows.
+constexpr typ_Entry collectionTypes[] = {
+    {0, 1, nullptr},
+    {7, 1, "cls_List"},
+    {7, 1, "cls_Map"},
+};
+
 int initializeCount = 0;
 } // namespace
 
@@ -14,7 +26,9 @@ void QRTRomCore_initialize(int& tally)
     if (initializeCount++ != 0)
         return;
     ++tally;
-    QRTRomDiagEx_initialize(tally);
+    QRTRfmInterface_initialize(tally);
+    typ_ArchCompTable::InsertEntry(collectionModuleNumber,
+                                   typ_ArchCompEntry(collectionTypes, std::size(collectionTypes)));
 }
 
 void QRTRomCore_finalize(int& tally)
@@ -22,7 +36,8 @@ void QRTRomCore_finalize(int& tally)
     if (--initializeCount != 0)
         return;
     --tally;
+    typ_ArchCompTable::RemoveEntry(collectionModuleNumber);
     omi_Singleton<dbc_OldClassRegistrar>::Finalize();
     omi_Singleton<cls_MetadataRegistrar>::Finalize();
-    QRTRomDiagEx_finalize(tally);
+    QRTRfmInterface_finalize(tally);
 }

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "cow_String.h"
+#include "ovr_Export.h"
+#include "rfm_Array.h"
+#include "rfm_TableInfo.h"
+#include "rom_StoreException.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+class rfm_NewFile;
+struct sqlite3;
+
+/// A named object from which a store is read.
+struct rfm_Root
+{
+    cow_String name;
+    unsigned classId;
+    std::int64_t oid;
+};
+
+/// How a store's file is opened.
+enum class rfm_Access
+{
+    Read,    ///< An existing store, in one read transaction that lasts as long as the database is open.
+    Replace, ///< An existing store, whose content is taken out; the old one stays until `Commit`.
+    Create   ///< A new store; there must be no file of that name, and there is none until `Commit`.
+};
+
+/// The SQLite file of one store. A file is taken for a store only if it says that it is one; nothing else in
+/// it is trusted. All failures are `rom_StoreException`s.
+class OVR_EXPORT rfm_Database
+{
+public:
+    /// Marks a file as a store of ours: "OvrS".
+    static constexpr std::int64_t ApplicationId = 0x4F767253;
+    /// The newest form of file that this reader knows, and the oldest that the content it writes needs.
+    static constexpr std::int64_t FormatVersion = 1;
+
+    rfm_Database(const cow_String& path, rfm_Access access);
+    rfm_Database(const rfm_Database&) = delete;
+    rfm_Database& operator=(const rfm_Database&) = delete;
+    /// Undoes everything since the opening unless `Commit` succeeded.
+    ~rfm_Database();
+
+    const cow_String& Path() const { return path; }
+    /// Bytes of the file when it was opened.
+    std::int64_t FileSize() const { return fileSize; }
+
+    /// Makes the new content the store's, whole; it is on the disk when this returns. All statements, cursors
+    /// and inserters must be gone, and nothing else may be done with the database afterwards.
+    void Commit();
+
+    /// The tables of classes by ascending class id, with the columns that they really have.
+    const std::vector<rfm_TableInfo>& Tables();
+    /// The table of a class, or null.
+    const rfm_TableInfo* FindTable(unsigned classId);
+    /// Tables, views and triggers that no store has, by name.
+    std::vector<cow_String> ForeignParts();
+    /// Throws unless the store has its table of elements in the right form.
+    void RequireElements();
+
+    /// Takes everything out that a store holds. Throws if there are foreign parts.
+    void RemoveContent();
+    /// Adds the table of a class.
+    void CreateTable(const rfm_TableInfo& table);
+
+    std::vector<rfm_Root> Roots();
+    void InsertRoot(const rfm_Root& root);
+
+    /// The arrays of the store.
+    rfm_ArrayStore& Arrays();
+    /// The array under a handle, or a new one for handle 0.
+    rfm_Array<double, rfm_TypeDouble> ArrayDouble(std::int64_t handle) { return {Arrays(), handle}; }
+
+    /// The connection, for the statements of this layer.
+    sqlite3* Connection() const { return connection; }
+    /// Throws for a result code of SQLite.
+    [[noreturn]] void Raise(int result, const cow_String& table,
+                            std::int64_t row = rom_StoreException::NoRow) const;
+    /// Throws with a message of this layer.
+    [[noreturn]] void Raise(const std::string& message, const cow_String& table = cow_String(),
+                            std::int64_t row = rom_StoreException::NoRow,
+                            const cow_String& field = cow_String()) const;
+
+private:
+    void Open();
+    void OpenForReading();
+    void OpenForReplacing();
+    void OpenNew();
+    void RequireFile();
+    void OpenConnection(const std::string& file, int flags);
+    void Defend();
+    void CloseConnection() noexcept;
+    void CheckHeader();
+    bool BeginReading();
+    void Recover();
+    void CreateContent();
+    void BeginWriting();
+    std::vector<rfm_TableInfo> ReadCatalogue();
+    std::vector<rfm_Column> ReadColumns(const cow_String& table);
+    void RequireTable(const cow_String& table, bool isElements);
+    void Execute(const std::string& sql);
+
+    cow_String path;
+    rfm_Access access;
+    std::unique_ptr<rfm_NewFile> newFile;
+    sqlite3* connection = nullptr;
+    std::int64_t fileSize = 0;
+    std::optional<std::vector<rfm_TableInfo>> tables;
+    std::unique_ptr<rfm_ArrayStore> arrays;
+    std::unique_ptr<rfm_Inserter> rootInserter;
+    std::int64_t rootCount = 0;
+};

@@ -1,0 +1,79 @@
+#include "rfm_ElementStore.h"
+
+#include "rfm_Check.h"
+#include "rfm_Database.h"
+#include "rfm_TableForm.h"
+
+namespace
+{
+std::int64_t CheckOf(unsigned classId, std::int64_t oid, std::int64_t position, const rfm_Element& element)
+{
+    rfm_Check check(rfm_Elements::checkSeed, oid);
+    check.Add(rfm_Cell::Integer(classId));
+    check.Add(rfm_Cell::Integer(position));
+    check.Add(element.key);
+    check.Add(element.value);
+    check.Add(element.targetClassId);
+    check.Add(element.targetOid);
+    return check.Number();
+}
+} // namespace
+
+rfm_ElementInserter::rfm_ElementInserter(rfm_Database& database)
+    : statement(database, rfm_Elements::SqlToInsert(), rfm_Elements::name)
+{}
+
+void rfm_ElementInserter::Insert(unsigned classId, std::int64_t oid, std::int64_t position,
+                                 const rfm_Element& element)
+{
+    Insert(classId, oid, position, element, rfm_Cell::Integer(CheckOf(classId, oid, position, element)));
+}
+
+void rfm_ElementInserter::Insert(unsigned classId, std::int64_t oid, std::int64_t position,
+                                 const rfm_Element& element, const rfm_Cell& check)
+{
+    statement.Bind(1 + rfm_Elements::ClassId, std::int64_t{classId});
+    statement.Bind(1 + rfm_Elements::Oid, oid);
+    statement.Bind(1 + rfm_Elements::Position, position);
+    statement.Bind(1 + rfm_Elements::Key, element.key);
+    statement.Bind(1 + rfm_Elements::Value, element.value);
+    statement.Bind(1 + rfm_Elements::TargetClassId, element.targetClassId);
+    statement.Bind(1 + rfm_Elements::TargetOid, element.targetOid);
+    statement.Bind(1 + rfm_Elements::Check, check);
+    statement.Run(oid);
+}
+
+rfm_ElementCursor::rfm_ElementCursor(rfm_Database& database)
+    : database(database), statement(database, rfm_Elements::SqlToRead(), rfm_Elements::name)
+{}
+
+void rfm_ElementCursor::Open(unsigned newClassId, std::int64_t newOid)
+{
+    classId = newClassId;
+    oid = newOid;
+    position = 0;
+    statement.Reset();
+    statement.Bind(1, std::int64_t{classId});
+    statement.Bind(2, oid);
+}
+
+bool rfm_ElementCursor::Next(rfm_Element& element)
+{
+    if (!statement.Step(oid))
+        return false;
+    const rfm_Cell found = statement.Column(0);
+    if (!found.Is(rfm_CellKind::Integer) || found.integer != position)
+        RaiseDamaged("The positions of the collection's elements do not run from 0 without holes.");
+    element = {statement.Column(1), statement.Column(2), statement.Column(3), statement.Column(4)};
+    const rfm_Cell check = statement.Column(5);
+    if (!check.IsNull() &&
+        (!check.Is(rfm_CellKind::Integer) || check.integer != CheckOf(classId, oid, position, element)))
+        RaiseDamaged("The element does not fit its check number: the file is damaged.");
+    ++position;
+    return true;
+}
+
+void rfm_ElementCursor::RaiseDamaged(const char* message) const
+{
+    database.Raise(message, rfm_Elements::name, oid, ("Position " + std::to_string(position)).c_str());
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ovr_Export.h"
+#include "rfm_Statement.h"
+#include "rfm_TableForm.h"
+
+/// Puts rows into one table.
+class OVR_EXPORT rfm_Inserter
+{
+public:
+    rfm_Inserter(rfm_Database& database, const rfm_TableForm& form);
+
+    /// `cells` are as many as the table has columns.
+    void Insert(std::int64_t key, const rfm_Cell* cells);
+    /// The same with a check number that is given: a null cell for a row without one.
+    void Insert(std::int64_t key, const rfm_Cell* cells, const rfm_Cell& check);
+
+private:
+    rfm_Statement statement;
+    int count;
+    unsigned checkSeed;
+};

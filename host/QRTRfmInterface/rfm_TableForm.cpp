@@ -1,0 +1,128 @@
+#include "rfm_TableForm.h"
+
+namespace
+{
+const char* NameOf(rfm_ColumnKind kind)
+{
+    switch (kind)
+    {
+    case rfm_ColumnKind::Integer:
+        return " INTEGER";
+    case rfm_ColumnKind::Real:
+        return " REAL";
+    case rfm_ColumnKind::Text:
+        return " TEXT";
+    case rfm_ColumnKind::Blob:
+        return " BLOB";
+    case rfm_ColumnKind::Any:
+        break;
+    }
+    return "";
+}
+
+std::string Parameters(std::size_t count)
+{
+    std::string list = "?";
+    for (std::size_t i = 1; i < count; ++i)
+        list += ",?";
+    return list;
+}
+} // namespace
+
+std::string rfm_Quoted(const cow_String& name)
+{
+    std::string quoted = "\"";
+    for (const char letter : name.View())
+    {
+        if (letter == '"')
+            quoted += '"';
+        quoted += letter;
+    }
+    return quoted + '"';
+}
+
+rfm_TableForm rfm_TableForm::Of(const rfm_TableInfo& table)
+{
+    return {table.name, rfm_OidColumn, table.columns, table.classId};
+}
+
+// The numbers of the store's own tables lie below all class ids.
+
+rfm_TableForm rfm_TableForm::Catalogue()
+{
+    return {"rom_Class",
+            "ClassID",
+            {{"Name", rfm_ColumnKind::Text},
+             {"Version", rfm_ColumnKind::Integer},
+             {"BaseClassID", rfm_ColumnKind::Integer}},
+            1};
+}
+
+rfm_TableForm rfm_TableForm::Roots()
+{
+    return {"rom_Root",
+            rfm_OidColumn,
+            {{"Name", rfm_ColumnKind::Text},
+             {"Target#ClassID", rfm_ColumnKind::Integer},
+             {"Target#OID", rfm_ColumnKind::Integer}},
+            2};
+}
+
+rfm_TableForm rfm_TableForm::Arrays()
+{
+    return {"rfm_Array",
+            "Handle",
+            {{"Type", rfm_ColumnKind::Integer},
+             {"Length", rfm_ColumnKind::Integer},
+             {"Bytes", rfm_ColumnKind::Blob}},
+            4};
+}
+
+std::string rfm_TableForm::SqlToCreate() const
+{
+    std::string sql =
+        "CREATE TABLE " + rfm_Quoted(name) + " (" + rfm_Quoted(keyColumn) + " INTEGER PRIMARY KEY";
+    for (const rfm_Column& column : columns)
+        sql += ", " + rfm_Quoted(column.name) + NameOf(column.kind);
+    return sql + ", " + rfm_Quoted(rfm_CheckColumn) + " INTEGER)";
+}
+
+std::string rfm_TableForm::SqlToInsert() const
+{
+    return "INSERT INTO " + rfm_Quoted(name) + " VALUES(" + Parameters(columns.size() + 2) + ")";
+}
+
+std::string rfm_TableForm::SqlToRead() const
+{
+    std::string sql = "SELECT " + rfm_Quoted(keyColumn);
+    for (const rfm_Column& column : columns)
+        sql += ", " + rfm_Quoted(column.name);
+    return sql + ", " + rfm_Quoted(rfm_CheckColumn) + " FROM " + rfm_Quoted(name) + " WHERE " +
+           rfm_Quoted(keyColumn) + " >= ? ORDER BY " + rfm_Quoted(keyColumn);
+}
+
+const char* const rfm_Elements::columns[ColumnCount] = {
+    "ClassID", "OID", "Position", "Key", "Value", "Target#ClassID", "Target#OID", rfm_CheckColumn};
+
+std::string rfm_Elements::SqlToCreate()
+{
+    return "CREATE TABLE \"rom_Element\" (\"ClassID\" INTEGER, \"OID\" INTEGER, \"Position\" INTEGER, "
+           "\"Key\", \"Value\", \"Target#ClassID\" INTEGER, \"Target#OID\" INTEGER, \"##Check\" INTEGER, "
+           "PRIMARY KEY(\"ClassID\", \"OID\", \"Position\")) WITHOUT ROWID";
+}
+
+std::string rfm_Elements::SqlToInsert()
+{
+    return "INSERT INTO \"rom_Element\" VALUES(" + Parameters(ColumnCount) + ")";
+}
+
+std::string rfm_Elements::SqlToRead()
+{
+    return "SELECT \"Position\", \"Key\", \"Value\", \"Target#ClassID\", \"Target#OID\", \"##Check\" "
+           "FROM \"rom_Element\" WHERE \"ClassID\" = ? AND \"OID\" = ? ORDER BY \"Position\"";
+}
+
+std::string rfm_Elements::SqlToReadAll()
+{
+    return "SELECT * FROM \"rom_Element\" ORDER BY \"ClassID\", \"OID\", \"Position\"";
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "ovr_Export.h"
+#include "rfm_TableInfo.h"
+
+#include <string>
+
+/// What statements need to know about a table whose rows have a number and a check number.
+struct OVR_EXPORT rfm_TableForm
+{
+    cow_String name;
+    cow_String keyColumn;
+    std::vector<rfm_Column> columns; ///< without key and check number
+    unsigned checkSeed;              ///< what tells the rows of this table from those of others
+
+    /// That of a class's table.
+    static rfm_TableForm Of(const rfm_TableInfo& table);
+    /// The catalogue of class tables: name, version, base.
+    static rfm_TableForm Catalogue();
+    /// The named objects: name, class id, row number.
+    static rfm_TableForm Roots();
+    /// The arrays: code of their numbers, length, bytes.
+    static rfm_TableForm Arrays();
+
+    std::string SqlToCreate() const;
+    std::string SqlToInsert() const;
+    /// Rows from a key on, in ascending order: key, columns, check number.
+    std::string SqlToRead() const;
+};
+
+/// The table of the elements of collections.
+namespace rfm_Elements
+{
+inline constexpr char name[] = "rom_Element";
+inline constexpr unsigned checkSeed = 3;
+
+enum Column
+{
+    ClassId,
+    Oid,
+    Position,
+    Key,
+    Value,
+    TargetClassId,
+    TargetOid,
+    Check,
+    ColumnCount
+};
+
+/// Names of the columns, as counted by `Column`.
+extern const char* const columns[ColumnCount];
+/// Columns that make up the primary key.
+inline constexpr int keyColumns = 3;
+
+std::string SqlToCreate();
+std::string SqlToInsert();
+/// The elements of one collection by position, without the collection's own two columns.
+std::string SqlToRead();
+/// All elements.
+std::string SqlToReadAll();
+} // namespace rfm_Elements
+
+/// A name as SQL takes it.
+OVR_EXPORT std::string rfm_Quoted(const cow_String& name);

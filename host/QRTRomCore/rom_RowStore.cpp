@@ -1,0 +1,5 @@
+#include "rom_RowStore.h"
+
+rom_RowSink::~rom_RowSink() = default;
+
+rom_RowSource::~rom_RowSource() = default;
