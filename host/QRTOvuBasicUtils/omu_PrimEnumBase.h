@@ -28,6 +28,8 @@ public:
     cow_String AsString(int form) const override;
     /// Equal to another enumeration value of the same text.
     bool operator==(const omu_Primitive& other) const override;
+    /// The same; without it two enumeration values compare in two equally good orders.
+    bool operator==(const omu_PrimEnumBase& other) const { return other.string == string; }
     void Accept(omu_PrimVisitor* visitor) override;
     omu_PrimEnumBase* Copy() const override = 0;
     unsigned DynTypeId() const override;
