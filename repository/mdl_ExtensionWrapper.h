@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mdl_MapString2ObjCow.h"
+#include "nex_canDynamicCastRef.h"
 
 namespace mdl_detail
 {
@@ -50,7 +51,8 @@ public:
     void Read(void* member, const cls_ReadVisitor& visitor, const cls_FieldHandle& field) const override
     {
         const cls_ReadVisitor nested(visitor, field);
-        *static_cast<R*>(member) = R(nested);
+        nex_canDynamicCastRef(R::TypeId(), nested.Memento().ClassId(), __FILE__, __LINE__);
+        static_cast<R*>(member)->Restore(R(nested));
     }
 
     cls_Value Export(const void* member) const override

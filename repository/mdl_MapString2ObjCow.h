@@ -153,6 +153,14 @@ public:
         return true;
     }
 
+    /// Takes content and identities of `stored`, as reading does.
+    void Restore(const mdl_MapString2ObjCow& stored)
+    {
+        Map storedMap(stored.map);
+        *this = stored;
+        map.Restore(storedMap);
+    }
+
     /// Drops all objects.
     void Clear() { map = cow_Btree<cow_String, Handle>(); }
 

@@ -1,5 +1,6 @@
 #include "rom_ReadSession.h"
 
+#include "mdl_Repository.h"
 #include "rom_StoreException.h"
 #include "typ_ArchCompTable.h"
 
@@ -522,9 +523,17 @@ const cls_ErasedHandle& rom_RowReader::ElementObject(unsigned classId)
     return session.Held(this, classId, targetClass, target);
 }
 
+/// A wrapper describes the repository that it holds as a collection, and checks itself which repository it
+/// is.
+static bool IsRepositoryAsCollection(unsigned expected, unsigned classId)
+{
+    return (expected == cls_ListTypeId || expected == cls_MapTypeId) &&
+           typ_ArchCompTable::IsParent(mdl_Repository::TypeId(), classId);
+}
+
 rom_RowReader& rom_RowReader::OpenByValue(unsigned expected, unsigned classId, std::int64_t target)
 {
-    if (classId != expected)
+    if (classId != expected && !IsRepositoryAsCollection(expected, classId))
         Raise(cow_String("Expected an object of class ")
                   .append(Describe(expected))
                   .append(", found one of class ")

@@ -3,8 +3,14 @@
 #include "kamC_AmplitudeContainer.h"
 #include "kamC_Decay.h"
 #include "kamC_Tabular.h"
+#include "rom_StoreReader.h"
+#include "rom_StoreWriter.h"
 
 #include <gtest/gtest.h>
+
+#include <cstdio>
+#include <memory>
+#include <string>
 
 namespace
 {
@@ -77,6 +83,32 @@ TEST(Repository, KeepsSharingThroughTheStore)
     EXPECT_EQ(2, read->ConstGetMap().ConstFind("one")->ShareCount());
 }
 
+/// The container as a store has it: written to a file under one name and read from it again.
+kamC_AmplitudeContainer ThroughAFile(const kamC_AmplitudeContainer& container)
+{
+    const std::string path = testing::TempDir() + "wrapper_test.ovr";
+    rom_StoreWriter writer(path.c_str());
+    writer.WriteRoot("amplitudes", kamC_AmplitudeContainer::TypeId(),
+                     static_cast<const mdl_Extension*>(&container));
+    writer.Finish();
+    rom_StoreReader reader(path.c_str());
+    const cls_ErasedHandle& root = reader.ReadRoot("amplitudes", kamC_AmplitudeContainer::TypeId());
+    const cow_COW<mdl_Extension, cow_Virtual<mdl_Extension>> handle =
+        cow_Restored<mdl_Extension, cow_Virtual<mdl_Extension>>(root);
+    std::remove(path.c_str());
+    return static_cast<const kamC_AmplitudeContainer&>(*handle);
+}
+
+double InitialOf(const kamC_AmplitudeContainer& amplitudes, const char* name)
+{
+    return static_cast<const kamC_Decay*>(amplitudes.ConstGet(name))->initial;
+}
+
+cls_Uid UidOf(const kamC_AmplitudeContainer& amplitudes, const char* name)
+{
+    return static_cast<const kamC_Decay*>(amplitudes.ConstGet(name))->Uid();
+}
+
 TEST(Repository, KeepsTwoObjectsOfOneIdentity)
 {
     LibraryEnvironment::Require();
@@ -86,16 +118,17 @@ TEST(Repository, KeepsTwoObjectsOfOneIdentity)
     EXPECT_TRUE(container.Insert("one", decay));
     decay.initial = 2.0;
     EXPECT_TRUE(container.Insert("two", decay));
-    const auto initialOf = [](const kamC_AmplitudeContainer& amplitudes, const char* name)
-    { return static_cast<const kamC_Decay*>(amplitudes.ConstGet(name))->initial; };
-    const auto uidOf = [](const kamC_AmplitudeContainer& amplitudes, const char* name)
-    { return static_cast<const kamC_Decay*>(amplitudes.ConstGet(name))->Uid(); };
-    EXPECT_EQ(uidOf(container, "one"), uidOf(container, "two"));
-    const std::unique_ptr<kamC_AmplitudeContainer> read(container.DeepCopy());
-    EXPECT_EQ(1.0, initialOf(*read, "one"));
-    EXPECT_EQ(2.0, initialOf(*read, "two"));
-    EXPECT_NE(uidOf(*read, "one"), uidOf(*read, "two")) << "the second gets a fresh identity";
-    EXPECT_EQ(uidOf(container, "one"), uidOf(*read, "one"));
+    EXPECT_EQ(UidOf(container, "one"), UidOf(container, "two"));
+
+    const kamC_AmplitudeContainer read = ThroughAFile(container);
+    EXPECT_EQ(1.0, InitialOf(read, "one"));
+    EXPECT_EQ(2.0, InitialOf(read, "two"));
+    EXPECT_NE(UidOf(read, "one"), UidOf(read, "two")) << "the second gets a fresh identity";
+    EXPECT_EQ(UidOf(container, "one"), UidOf(read, "one"));
+
+    const std::unique_ptr<kamC_AmplitudeContainer> copy(container.DeepCopy());
+    EXPECT_EQ(2.0, InitialOf(*copy, "two"));
+    EXPECT_EQ(UidOf(*copy, "one"), UidOf(*copy, "two")) << "a copy keeps identities as they are";
 }
 
 TEST(Optional, StaysEmptyThroughTheStore)
