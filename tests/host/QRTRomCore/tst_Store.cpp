@@ -1,0 +1,118 @@
+#include "tst_Store.h"
+
+#include "rom_StoreReader.h"
+#include "rom_StoreWriter.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <sqlite3.h>
+#include <stdexcept>
+#include <vector>
+
+tst_Folder::tst_Folder()
+{
+    std::string pattern = (std::filesystem::temp_directory_path() / "ovr-store-XXXXXX").string();
+    if (!mkdtemp(pattern.data()))
+        throw std::runtime_error("no folder for the test");
+    path = pattern;
+}
+
+tst_Folder::~tst_Folder()
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(path, ignored);
+}
+
+std::string tst_Folder::Names() const
+{
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(path))
+        names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    std::string text;
+    for (const std::string& name : names)
+        text += (text.empty() ? "" : " ") + name;
+    return text;
+}
+
+void tst_Save(const std::string& path, const tst_Part& part)
+{
+    tst_RequireClasses();
+    rom_StoreWriter writer(path.c_str());
+    writer.WriteRoot("model", part.DynTypeId(), &part);
+    writer.Finish();
+}
+
+tst_Part::Handle tst_Load(const std::string& path)
+{
+    tst_RequireClasses();
+    rom_StoreReader reader(path.c_str());
+    return cow_Restored<tst_Part, cow_Virtual<tst_Part>>(reader.ReadRoot("model", tst_Part::TypeId()));
+}
+
+namespace
+{
+class Connection
+{
+public:
+    explicit Connection(const std::string& path)
+    {
+        if (sqlite3_open_v2(path.c_str(), &connection, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) !=
+            SQLITE_OK)
+            Raise();
+    }
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    ~Connection() { sqlite3_close(connection); }
+
+    std::string Run(const std::string& sql)
+    {
+        std::string first;
+        const char* rest = sql.c_str();
+        while (*rest)
+        {
+            sqlite3_stmt* statement = nullptr;
+            if (sqlite3_prepare_v2(connection, rest, -1, &statement, &rest) != SQLITE_OK)
+                Raise();
+            int result = SQLITE_ROW;
+            while (statement && (result = sqlite3_step(statement)) == SQLITE_ROW)
+            {
+                if (const unsigned char* text = sqlite3_column_text(statement, 0); text && first.empty())
+                    first = reinterpret_cast<const char*>(text);
+            }
+            if (sqlite3_finalize(statement) != SQLITE_OK)
+                Raise();
+        }
+        return first;
+    }
+
+private:
+    [[noreturn]] void Raise() { throw std::runtime_error(sqlite3_errmsg(connection)); }
+
+    sqlite3* connection = nullptr;
+};
+} // namespace
+
+void tst_Execute(const std::string& path, const std::string& sql)
+{
+    Connection(path).Run(sql);
+}
+
+std::string tst_Query(const std::string& path, const std::string& sql)
+{
+    return Connection(path).Run(sql);
+}
+
+std::string tst_ReadFile(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+void tst_WriteFile(const std::string& path, const std::string& content)
+{
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file.write(content.data(), static_cast<std::streamsize>(content.size()));
+}
