@@ -95,15 +95,15 @@ public:
 
     long OpenDoubles(int& columns) override;
 
-    void ReadDoubles(double* values) override { session.source.ReadArray(values); }
+    void ReadDoubles(double* values) override { ReadArray(values); }
 
     long OpenInts() override { return OpenList(rfm_TypeInt); }
 
-    void ReadInts(int* values) override { session.source.ReadArray(values); }
+    void ReadInts(int* values) override { ReadArray(values); }
 
     long OpenBools() override { return OpenList(rfm_TypeBool); }
 
-    void ReadBools(bool* values) override { session.source.ReadArray(values); }
+    void ReadBools(bool* values) override { ReadArray(values); }
 
     long OpenElements() override
     {
@@ -301,6 +301,7 @@ private:
 
     long OpenArray(rfm_Type type, int& columns);
     long OpenList(rfm_Type type);
+    void ReadArray(void* values);
     void StartElements();
     bool NextElement();
     void GoToElement(long wanted);
@@ -315,6 +316,7 @@ private:
     rom_ReadSession::ClassState* state = nullptr;
     std::int64_t oid = 0;
     rom_OpenRow row;
+    bool arrayIsOpen = false;
     void* elements = nullptr;
     std::int64_t length = 0;
     std::int64_t position = -1; ///< of `element`
@@ -393,6 +395,7 @@ const cls_ErasedHandle& rom_RowReader::GetObject(const cls_FieldHandle& field, u
 
 long rom_RowReader::OpenArray(rfm_Type type, int& columns)
 {
+    arrayIsOpen = false;
     const std::int64_t count = CollectionCell(rom_ClassPlan::LengthCell, INT_MAX, "the count of numbers");
     columns = static_cast<int>(CollectionCell(rom_ClassPlan::ColumnsCell, INT_MAX, "the count of columns"));
     if (columns == 0 ? count != 0 : count % columns != 0)
@@ -414,7 +417,15 @@ long rom_RowReader::OpenArray(rfm_Type type, int& columns)
                   .append(std::to_string(count).c_str())
                   .append("."));
     session.Spend(count * rfm_SizeOf(type));
+    arrayIsOpen = true;
     return static_cast<long>(count);
+}
+
+void rom_RowReader::ReadArray(void* values)
+{
+    // An empty collection has no array of its own; the one that the source has open belongs to another row.
+    if (arrayIsOpen)
+        session.source.ReadArray(values);
 }
 
 long rom_RowReader::OpenDoubles(int& columns)
