@@ -1,0 +1,496 @@
+#include "app_Commands.h"
+
+#include "app_Catalog.h"
+#include "app_Check.h"
+#include "app_Edit.h"
+#include "app_Error.h"
+#include "app_File.h"
+#include "app_Json.h"
+#include "app_Path.h"
+#include "app_Show.h"
+#include "app_Store.h"
+#include "app_Table.h"
+
+#include <iostream>
+#include <memory>
+
+#include <fmt/format.h>
+
+namespace
+{
+
+constexpr const char* storeHelp = "Stored model";
+constexpr const char* modelHelp = "Stored model, or model as JSON";
+constexpr const char* pathHelp = "Path of an object or of a value in it, as amplitudes['ramp'].data";
+constexpr const char* jsonHelp = "Answer as JSON";
+constexpr const char* forceHelp = "Replace what is there";
+
+/// One command: its words on the command line, and what it does.
+class Command
+{
+public:
+    Command() = default;
+    Command(const Command&) = delete;
+    Command& operator=(const Command&) = delete;
+    virtual ~Command() = default;
+
+    /// Adds the command to the parser.
+    virtual void AddTo(CLI::App& parser) = 0;
+    /// Carries it out; the exit code.
+    virtual int Run() = 0;
+
+protected:
+    void AddJson(CLI::App& command) { command.add_flag("--json", json, jsonHelp); }
+
+    bool json = false;
+};
+
+void PrintValue(const cls_Value& value, app_JsonLayout layout = app_JsonLayout::Model)
+{
+    app_Print(app_WriteJson(value, layout) + '\n');
+}
+
+/// Warns of the rule that an object breaks, if it breaks one.
+void WarnOf(const app_Object& object)
+{
+    const auto finding =
+        app_CheckObject(object.description, object.object, app_PathOf(object.repositoryWord, object.name));
+    if (finding)
+        app_Warn(fmt::format("{}: {} {}", finding->path, finding->id, finding->message));
+}
+
+class CatalogCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.add_option("CLASS", className, "Class name or constructor word; without it, all classes");
+        AddJson(parser);
+    }
+
+    int Run() override
+    {
+        if (className.empty())
+            app_Print(json ? app_CatalogJson(app_Catalog()) : app_CatalogText());
+        else if (json)
+            app_Print(app_CatalogJson(app_CatalogOfClass(app_FindClass(className))));
+        else
+            app_Print(app_CatalogTextOfClass(app_FindClass(className)));
+        return app_Fine;
+    }
+
+private:
+    std::string className;
+};
+
+class NewCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.add_option("STORE", store, storeHelp)->required();
+        CLI::Option* const pathOption = parser.add_option("PATH", path, "Path of a new object in STORE");
+        parser.add_option("CLASS", className, "Its constructor word or class name")->needs(pathOption);
+        parser.add_option("WORD=VALUE", settings, "Its attributes, as for `set`");
+        parser.add_flag("--force", force, forceHelp);
+    }
+
+    int Run() override
+    {
+        if (path.empty())
+            MakeStore();
+        else if (className.empty())
+            throw app_Error("new: " + path + ": expected the class of the new object after its path");
+        else
+            MakeObject();
+        return app_Fine;
+    }
+
+private:
+    void MakeStore() const
+    {
+        app_WriteStore(ddr_ModelHandle(new ddr_Model), store, app_SaveModeFor(store, force));
+    }
+
+    void MakeObject() const
+    {
+        ddr_ModelHandle model = app_ReadStore(store);
+        const app_Path where = app_ParsePath(path);
+        app_MakeObject(*model.Get(), where, app_FindClass(className), settings, force);
+        WarnOf(app_FindObject(*model, where));
+        app_WriteStore(model, store, app_SaveMode::InPlace);
+    }
+
+    std::string store;
+    std::string path;
+    std::string className;
+    std::vector<std::string> settings;
+    bool force = false;
+};
+
+class ImportCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.add_option("MODEL", model, "Model as JSON")->required();
+        parser.add_option("STORE", store, "Stored model to make")->required();
+        parser.add_flag("--force", force, forceHelp);
+        AddJson(parser);
+    }
+
+    int Run() override
+    {
+        const app_SaveMode mode = app_SaveModeFor(store, force);
+        const ddr_ModelHandle taken = app_ReadJsonModel(app_ReadFile(model), model);
+        app_WriteStore(taken, store, mode);
+        const int count = app_ObjectCount(*taken);
+        if (json)
+            PrintValue(cls_Value::Object{{"store", store}, {"objects", count}}, app_JsonLayout::OneLine);
+        else
+            app_Print(fmt::format("{}: {}\n", store, app_Count(count, "object")));
+        return app_Fine;
+    }
+
+private:
+    std::string model;
+    std::string store;
+    bool force = false;
+};
+
+class ExportCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.add_option("STORE", store, modelHelp)->required();
+        parser.add_option("-o,--output", output, "File to write; standard output without it");
+        parser.add_flag("--json", json, "The form that is written in any case");
+    }
+
+    int Run() override
+    {
+        const std::string text = app_WriteJsonModel(*app_ReadModel(store));
+        if (output.empty())
+            app_Print(text);
+        else
+            app_WriteFile(output, text);
+        return app_Fine;
+    }
+
+private:
+    std::string store;
+    std::string output;
+};
+
+class ShowCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.add_option("STORE", store, modelHelp)->required();
+        parser.add_option("PATH", path, "Path of one object; without it, all objects are listed");
+        AddJson(parser);
+    }
+
+    int Run() override
+    {
+        const ddr_ModelHandle model = app_ReadModel(store);
+        if (path.empty())
+            ShowList(*model);
+        else
+            ShowObject(*model);
+        return app_Fine;
+    }
+
+private:
+    void ShowList(const ddr_Model& model) const
+    {
+        if (json)
+            PrintValue(app_ValueOfList(model), app_JsonLayout::Records);
+        else
+            app_Print(app_ShowModel(model, store));
+    }
+
+    void ShowObject(const ddr_Model& model) const
+    {
+        const app_Path where = app_ParsePath(path);
+        if (!where.steps.empty())
+            throw app_Error("show: " + path + ": expected an object; `vdbattr get` prints a value in one");
+        const app_Object object = app_FindObject(model, where);
+        if (json)
+            PrintValue(object.description.Export(object.object));
+        else
+            app_Print(app_ShowObject(object));
+    }
+
+    std::string store;
+    std::string path;
+};
+
+class GetCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.add_option("STORE", store, modelHelp)->required();
+        parser.add_option("PATH", path, pathHelp)->required();
+        parser.add_option("WORD", word, "Attribute; without it, the whole value");
+        AddJson(parser);
+    }
+
+    int Run() override
+    {
+        const ddr_ModelHandle model = app_ReadModel(store);
+        app_Path where = app_ParsePath(path);
+        if (!word.empty())
+            where.steps.push_back({app_Path::Step::Sort::Word, word});
+        const app_Object object = app_FindObject(*model, where);
+        cls_Value whole = object.description.Export(object.object);
+        Print(app_FindValue(whole, where));
+        return app_Fine;
+    }
+
+private:
+    void Print(const cls_Value& value) const
+    {
+        const std::string* const text = value.AsText();
+        if (text && !json)
+            app_Print(*text + '\n');
+        else
+            PrintValue(value);
+    }
+
+    std::string store;
+    std::string path;
+    std::string word;
+};
+
+class SetCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.footer("VALUE is JSON or plain text: smooth=0.25 timeSpan=TOTAL data='[[0, 0], [1, 1]]'\n"
+                      "baselineCorrection='{\"intervals\": [0, 5]}' baselineCorrection=null smooth=unset.\n"
+                      "Nothing is refused for a broken rule; it is warned of, and `vdbattr check` lists it.");
+        parser.add_option("STORE", store, storeHelp)->required();
+        parser.add_option("PATH", path, "Path of an object, or of an object in one")->required();
+        parser.add_option("WORD=VALUE", settings, "Attributes and their new values")->required();
+        AddJson(parser);
+    }
+
+    int Run() override
+    {
+        ddr_ModelHandle model = app_ReadStore(store);
+        const app_Path where = app_ParsePath(path);
+        const std::vector<app_Change> changes = app_SetValues(*model.Get(), where, settings);
+        app_WriteStore(model, store, app_SaveMode::InPlace);
+        for (const app_Change& change : changes)
+        {
+            if (!json)
+                app_Print(fmt::format("{}.{}: {} -> {}\n", path, change.word, app_DigestText(change.before),
+                                      app_DigestText(change.after)));
+        }
+        if (json)
+            PrintValue(app_ValueOfChanges(path, changes));
+        WarnOf(app_FindObject(*model, where));
+        return app_Fine;
+    }
+
+private:
+    std::string store;
+    std::string path;
+    std::vector<std::string> settings;
+};
+
+class DeleteCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.add_option("STORE", store, storeHelp)->required();
+        parser.add_option("PATH", path, "Path of the object")->required();
+    }
+
+    int Run() override
+    {
+        ddr_ModelHandle model = app_ReadStore(store);
+        app_DeleteObject(*model.Get(), app_ParsePath(path));
+        app_WriteStore(model, store, app_SaveMode::InPlace);
+        return app_Fine;
+    }
+
+private:
+    std::string store;
+    std::string path;
+};
+
+class RenameCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.add_option("STORE", store, storeHelp)->required();
+        parser.add_option("PATH", path, "Path of the object")->required();
+        parser.add_option("NAME", name, "Its new name")->required();
+        parser.add_flag("--force", force, "Replace an object that has the name");
+    }
+
+    int Run() override
+    {
+        ddr_ModelHandle model = app_ReadStore(store);
+        app_RenameObject(*model.Get(), app_ParsePath(path), name, force);
+        app_WriteStore(model, store, app_SaveMode::InPlace);
+        return app_Fine;
+    }
+
+private:
+    std::string store;
+    std::string path;
+    std::string name;
+    bool force = false;
+};
+
+class CheckCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.footer(
+            "An object on its own is JSON that names its class: {\"class\": \"kamC_Tabular\", ...}.\n"
+            "With --lines each line of standard input is such an object, and each is answered by a\n"
+            "line: {\"ok\": true}, {\"ok\": false, \"code\": 2, \"message\": \"...\"} for a broken rule\n"
+            "(no code where the text is raised directly), {\"ok\": false, \"error\": \"...\"} for a line\n"
+            "that describes no object. Exit code: 0 if all is well, 1 if a rule is broken, 2 if a\n"
+            "file or line cannot be read.");
+        CLI::Option* const fileOption =
+            parser.add_option("FILE", file, "Stored model, model as JSON, or one object as JSON");
+        parser.add_flag("--lines", lines, "Check one object a line from standard input")
+            ->excludes(fileOption);
+        AddJson(parser);
+    }
+
+    int Run() override
+    {
+        if (lines)
+            return CheckLines();
+        if (file.empty())
+            throw app_Error("check: expected a file, or --lines");
+        std::vector<app_Finding> findings;
+        const int count = CheckFile(findings);
+        if (json)
+            PrintJson(findings, count);
+        else
+            PrintText(findings, count);
+        return findings.empty() ? app_Fine : app_Findings;
+    }
+
+private:
+    static int CheckLines()
+    {
+        int exitCode = app_Fine;
+        std::string line;
+        while (std::getline(std::cin, line))
+        {
+            const app_LineAnswer answer = app_CheckLine(line);
+            app_PrintNow(answer.json + '\n');
+            exitCode = std::max(exitCode, answer.exitCode);
+        }
+        return exitCode;
+    }
+
+    /// Gathers the findings; count of objects.
+    int CheckFile(std::vector<app_Finding>& findings) const
+    {
+        if (app_IsJsonFile(file))
+        {
+            const std::string text = app_ReadFile(file);
+            if (app_IsJsonObject(text))
+                return CheckObject(text, findings);
+            return CheckModel(app_ReadJsonModel(text, file), findings);
+        }
+        return CheckModel(app_ReadStore(file), findings);
+    }
+
+    int CheckObject(const std::string& text, std::vector<app_Finding>& findings) const
+    {
+        const cls_Value value = app_ParseJson(text, file);
+        try
+        {
+            const cls_AnyObject object = app_ObjectOfValue(value);
+            if (auto finding = app_CheckObject(object.Description(), object.Get(), ""))
+                findings.push_back(*finding);
+            return 1;
+        }
+        catch (const cls_ValueError& error)
+        {
+            throw app_Error(file + ": " + error.what());
+        }
+    }
+
+    static int CheckModel(const ddr_ModelHandle& model, std::vector<app_Finding>& findings)
+    {
+        const int count = app_ObjectCount(*model);
+        app_Progress progress("checking", count);
+        findings = app_CheckModel(*model, progress);
+        return count;
+    }
+
+    void PrintJson(const std::vector<app_Finding>& findings, int count) const
+    {
+        cls_Value::Array values;
+        for (const app_Finding& finding : findings)
+            values.push_back(app_ValueOfFinding(finding));
+        PrintValue(cls_Value::Object{{"file", file},
+                                     {"ok", findings.empty()},
+                                     {"objects", count},
+                                     {"findings", std::move(values)}},
+                   app_JsonLayout::Records);
+    }
+
+    void PrintText(const std::vector<app_Finding>& findings, int count) const
+    {
+        using enum app_Table::Align;
+        app_Table table({Left, Left, Left});
+        for (const app_Finding& finding : findings)
+            table.Add({finding.path.empty() ? finding.className : finding.path, finding.id,
+                       app_OnOneLine(finding.message)});
+        app_Print(table.Text(0));
+        const std::string objects = app_Count(count, "object");
+        if (findings.empty())
+            app_Print(fmt::format("{}: {}, all rules hold\n", file, objects));
+        else
+            app_Print(fmt::format("{}: {}, {}\n", file, objects,
+                                  app_Count(static_cast<long>(findings.size()), "finding")));
+    }
+
+    std::string file;
+    bool lines = false;
+};
+
+template <class C>
+void Add(CLI::App& parser, int& exitCode, const char* name, const char* about)
+{
+    CLI::App* const sub = parser.add_subcommand(name, about);
+    const auto command = std::make_shared<C>();
+    command->AddTo(*sub);
+    sub->callback([command, &exitCode] { exitCode = command->Run(); });
+}
+
+} // namespace
+
+void app_AddCommands(CLI::App& parser, int& exitCode)
+{
+    Add<CatalogCommand>(parser, exitCode, "catalog",
+                        "List all that the library has: classes, words, messages");
+    Add<NewCommand>(parser, exitCode, "new", "Make an empty stored model, or an object in one");
+    Add<ImportCommand>(parser, exitCode, "import", "Make a stored model of a model as JSON");
+    Add<ExportCommand>(parser, exitCode, "export", "Print a stored model as JSON");
+    Add<ShowCommand>(parser, exitCode, "show", "List the objects of a model, or show one with its curve");
+    Add<GetCommand>(parser, exitCode, "get", "Print an attribute");
+    Add<SetCommand>(parser, exitCode, "set", "Change attributes of an object");
+    Add<DeleteCommand>(parser, exitCode, "del", "Delete an object");
+    Add<RenameCommand>(parser, exitCode, "rename", "Give an object another name");
+    Add<CheckCommand>(parser, exitCode, "check", "Check objects by the rules of their classes");
+}

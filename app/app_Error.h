@@ -1,0 +1,23 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+/// Input that cannot be used, or a command that cannot be carried out: one line for people, which names the
+/// file, path or word at fault and what was expected. The program ends with `app_Unusable`.
+class app_Error : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// What the program tells its caller when it ends.
+enum app_ExitCode : int
+{
+    app_Fine = 0,
+    app_Findings = 1, ///< A rule is broken.
+    app_Unusable = 2  ///< Input that cannot be read, or a command line that cannot be understood.
+};
+
+/// The text with every line feed as a blank, for a place that has one line.
+std::string app_OnOneLine(std::string text);

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+/// The content of a file, or its first `limit` bytes. Throws `app_Error`.
+std::string app_ReadFile(const std::string& path, std::size_t limit = std::string::npos);
+
+/// Puts `content` in place of a file, which holds the old content or the new at any time. Throws `app_Error`.
+void app_WriteFile(const std::string& path, const std::string& content);
+
+/// Writes to standard output. Throws `app_Error` if it cannot be written.
+void app_Print(const std::string& text);
+/// The same, and sees to it that the text is out.
+void app_PrintNow(const std::string& text);
+/// Writes one line of warning to standard error.
+void app_Warn(const std::string& text);
+
+/// Whether there is something at this path.
+bool app_Exists(const std::string& path);

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "ddr_Model.h"
+#include "mdl_NamedObjects.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// One object of a model.
+struct app_Object
+{
+    std::string repositoryWord;
+    std::string name;
+    const cls_Description& description; ///< Of the object's actual class.
+    const void* object;                 ///< Seen as its root class; owned by the model.
+};
+
+/// Path of a named object, as "amplitudes['ramp']".
+std::string app_PathOf(const std::string& repositoryWord, const std::string& name);
+
+/// Words of the repositories that a model has, in stored order.
+std::vector<std::string> app_RepositoryWords(const ddr_Model& model);
+
+/// The repository of this word. Throws `cls_ValueError` if the model has none.
+const mdl_NamedObjects& app_ConstRepository(const ddr_Model& model, const std::string& word);
+mdl_NamedObjects& app_Repository(ddr_Model& model, const std::string& word);
+
+/// Count of all objects.
+int app_ObjectCount(const ddr_Model& model);
+
+/// Calls `act` with each object of each repository, in order.
+void app_ForEachObject(const ddr_Model& model, const std::function<void(const app_Object&)>& act);
+
+/// The description of an object's actual class.
+const cls_Description& app_ActualClass(const cls_Description& root, const void* object);
+
+/// Puts the object that `value` describes into the model. Throws `cls_ValueError`, also if the name is taken.
+void app_InsertValue(ddr_Model& model, const std::string& repositoryWord, const std::string& name,
+                     const cls_Value& value);
+
+/// The object that `value` describes, of the registered class that it names. Throws `cls_ValueError`.
+cls_AnyObject app_ObjectOfValue(const cls_Value& value);

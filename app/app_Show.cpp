@@ -1,0 +1,245 @@
+#include "app_Show.h"
+
+#include "app_Check.h"
+#include "app_Json.h"
+#include "app_Table.h"
+#include "app_View.h"
+#include "cls_Unset.h"
+
+#include <fmt/format.h>
+
+namespace
+{
+
+using enum app_Table::Align;
+
+constexpr std::size_t sparkWidth = 20;
+constexpr std::size_t longestDigest = 60;
+constexpr std::size_t rowsAtEachEnd = 4;
+
+bool IsUnset(const cls_Value& value)
+{
+    const double* const number = value.AsDouble();
+    const std::int64_t* const integer = value.AsInteger();
+    return (number && *number == cls_UnsetDouble) || (integer && *integer == cls_UnsetInt);
+}
+
+bool IsTable(const cls_Value::Array& elements)
+{
+    return !elements.empty() && elements.front().AsArray();
+}
+
+std::string SizeText(const cls_Value& value)
+{
+    if (const cls_Value::Object* members = value.AsObject())
+        return app_Count(static_cast<long>(members->size()), "entry", "entries");
+    const cls_Value::Array& elements = *value.AsArray();
+    const long count = static_cast<long>(elements.size());
+    if (!IsTable(elements))
+        return app_Count(count, "value");
+    return fmt::format("{} of {}", app_Count(count, "row"), elements.front().AsArray()->size());
+}
+
+/// The part of a digest that an attribute gives; empty for one that tells nothing.
+std::string DigestOf(const cls_Attribute& attribute, const cls_Value& value)
+{
+    if (value.IsNull() || IsUnset(value))
+        return "";
+    if (value.AsArray())
+        return value.AsArray()->empty() ? "" : SizeText(value);
+    const std::string* const text = value.AsText();
+    if (text && text->empty())
+        return "";
+    if (value.Find("class"))
+        return attribute.word;
+    return fmt::format("{}={}", attribute.word, app_ShortText(value));
+}
+
+/// What makes an object differ from a default one, in short.
+std::string Digest(const app_Object& object)
+{
+    const cls_AnyObject plain(object.description, object.description.Info().create());
+    std::string digest;
+    for (const cls_Attribute* attribute : object.description.AllAttributes())
+    {
+        const cls_Value value = attribute->kind->Export(attribute->Member(object.object));
+        if (value == attribute->kind->Export(attribute->Member(plain.Get())))
+            continue;
+        const std::string part = DigestOf(*attribute, value);
+        if (part.empty())
+            continue;
+        if (digest.size() + part.size() > longestDigest)
+            return digest + ", ...";
+        digest += (digest.empty() ? "" : ", ") + part;
+    }
+    return digest;
+}
+
+std::string SparkOf(const app_Object& object)
+{
+    const auto curve = app_CurveOf(object.description.Export(object.object));
+    return curve ? app_Sparkline(*curve, sparkWidth) : "";
+}
+
+template <class Act>
+void ForEachObjectOf(const ddr_Model& model, const std::string& word, Act act)
+{
+    const mdl_NamedObjects& repository = app_ConstRepository(model, word);
+    for (const std::string& name : repository.ObjectNames())
+    {
+        if (const void* object = repository.ConstObject(name))
+            act(app_Object{word, name, app_ActualClass(repository.ObjectRoot(), object), object});
+    }
+}
+
+} // namespace
+
+std::string app_ShortText(const cls_Value& value)
+{
+    if (IsUnset(value))
+        return "not set";
+    if (value.IsNull())
+        return "none";
+    if (const std::string* text = value.AsText())
+        return *text;
+    return app_WriteJson(value, app_JsonLayout::OneLine);
+}
+
+std::string app_ShowModel(const ddr_Model& model, const std::string& source)
+{
+    std::string text = fmt::format("{}: {}\n", source, app_Count(app_ObjectCount(model), "object"));
+    for (const std::string& word : app_RepositoryWords(model))
+    {
+        app_Table table({Left, Left, Left, Left});
+        ForEachObjectOf(
+            model, word,
+            [&table](const app_Object& object) {
+                table.Add({object.name, app_LabelOf(object.description), SparkOf(object), Digest(object)});
+            });
+        const std::string rows = table.Text(2);
+        if (!rows.empty())
+            text += fmt::format("\n{}\n{}", word, rows);
+    }
+    return text;
+}
+
+cls_Value app_ValueOfList(const ddr_Model& model)
+{
+    cls_Value::Object repositories;
+    for (const std::string& word : app_RepositoryWords(model))
+    {
+        cls_Value::Array objects;
+        ForEachObjectOf(model, word,
+                        [&objects](const app_Object& object)
+                        {
+                            objects.push_back(cls_Value::Object{{"name", object.name},
+                                                                {"class", object.description.Name()},
+                                                                {"label", app_LabelOf(object.description)},
+                                                                {"digest", Digest(object)}});
+                        });
+        repositories.emplace_back(word, std::move(objects));
+    }
+    return repositories;
+}
+
+namespace
+{
+
+std::vector<std::string> RowCells(const cls_Value& row)
+{
+    std::vector<std::string> cells;
+    for (const cls_Value& cell : *row.AsArray())
+        cells.push_back(app_ShortText(cell));
+    return cells;
+}
+
+/// The first and the last rows of a table of numbers.
+std::string TableText(const cls_Value::Array& rows, std::size_t indent)
+{
+    app_Table table(std::vector<app_Table::Align>(rows.front().AsArray()->size(), Right));
+    const bool whole = rows.size() <= 2 * rowsAtEachEnd + 1;
+    for (std::size_t i = 0; i < rows.size(); ++i)
+    {
+        if (whole || i < rowsAtEachEnd || i >= rows.size() - rowsAtEachEnd)
+            table.Add(RowCells(rows[i]));
+        else if (i == rowsAtEachEnd)
+            table.Add({"..."});
+    }
+    return table.Text(indent);
+}
+
+/// The first and the last values of a list.
+std::string ListText(const cls_Value::Array& elements)
+{
+    std::string text;
+    for (std::size_t i = 0; i < elements.size(); ++i)
+    {
+        const bool shown =
+            i < rowsAtEachEnd || i >= elements.size() - std::min(rowsAtEachEnd, elements.size());
+        if (shown)
+            text += (i == 0 ? "" : ", ") + app_ShortText(elements[i]);
+        else if (i == rowsAtEachEnd)
+            text += ", ...";
+    }
+    return text;
+}
+
+std::string AttributesText(const cls_Description& description, const cls_Value& object, std::size_t indent);
+
+std::string ValueText(const cls_Value& value, std::size_t indent)
+{
+    if (const cls_Value* className = value.Find("class"))
+    {
+        const cls_Description* const description = cls_Descriptions().Find(*className->AsText());
+        return app_LabelOf(*description) + '\n' + AttributesText(*description, value, indent);
+    }
+    const cls_Value::Array* const elements = value.AsArray();
+    if (!elements)
+        return app_ShortText(value) + '\n';
+    if (elements->empty())
+        return "none\n";
+    if (IsTable(*elements))
+        return SizeText(value) + '\n' + TableText(*elements, indent);
+    return fmt::format("{}: {}\n", SizeText(value), ListText(*elements));
+}
+
+std::string AttributesText(const cls_Description& description, const cls_Value& object, std::size_t indent)
+{
+    const std::vector<const cls_Attribute*> attributes = description.AllAttributes();
+    std::size_t width = 0;
+    for (const cls_Attribute* attribute : attributes)
+        width = std::max(width, std::string_view(attribute->word).size());
+    std::string text;
+    for (const cls_Attribute* attribute : attributes)
+    {
+        const cls_Value& value = *object.Find(attribute->field.Name().CString());
+        text += fmt::format("{:{}}{:{}}  {}", "", indent, attribute->word, width,
+                            ValueText(value, indent + width + 2));
+    }
+    return text;
+}
+
+std::string RulesText(const app_Object& object)
+{
+    const auto finding =
+        app_CheckObject(object.description, object.object, app_PathOf(object.repositoryWord, object.name));
+    if (!finding)
+        return "Its rules hold.\n";
+    return fmt::format("Broken rule {}: {}\n", finding->id, finding->message);
+}
+
+} // namespace
+
+std::string app_ShowObject(const app_Object& object)
+{
+    const cls_Value value = object.description.Export(object.object);
+    std::string text = fmt::format("{}  {} ({})\n\n", app_PathOf(object.repositoryWord, object.name),
+                                   app_LabelOf(object.description), object.description.Name());
+    text += AttributesText(object.description, value, 2) + '\n';
+    if (const auto curve = app_CurveOf(value))
+    {
+        const std::string plot = app_Plot(*curve, 0);
+        text += plot.empty() ? "" : plot + '\n';
+    }
+    return text + RulesText(object);
+}
