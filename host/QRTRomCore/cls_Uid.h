@@ -35,8 +35,15 @@ public:
     /// Takes the identity from its stored form, `Size` bytes.
     static cls_Uid FromBytes(const unsigned char* bytes);
 
-    /// A number fit for hash tables.
-    std::uint64_t Hash() const { return (process ^ serial) * 0x9E3779B97F4A7C15u; }
+    /// How many identities taken one after the other are a group.
+    static constexpr unsigned GroupSize = 8;
+
+    /// A number fit for hash tables, the same for all identities of a group: what is made together can then
+    /// lie together.
+    std::uint64_t GroupHash() const { return (process ^ (serial / GroupSize)) * 0x9E3779B97F4A7C15u; }
+
+    /// Place within the group, below `GroupSize`.
+    unsigned PlaceInGroup() const { return static_cast<unsigned>(serial % GroupSize); }
 
     friend bool operator==(const cls_Uid& left, const cls_Uid& right)
     {

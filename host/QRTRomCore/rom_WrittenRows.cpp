@@ -9,7 +9,8 @@ rom_WrittenRows::rom_WrittenRows() : entries(std::size_t{1} << firstSizeBits), s
 
 std::uint64_t rom_WrittenRows::OwnHash(const cls_Uid& uid, const void* address)
 {
-    return (uid.Hash() ^ reinterpret_cast<std::uintptr_t>(address)) * 0x9FB21C651E98DF25u;
+    return ((uid.GroupHash() + uid.PlaceInGroup()) ^ reinterpret_cast<std::uintptr_t>(address)) *
+           0x9FB21C651E98DF25u;
 }
 
 // The first object of an identity stands where the identity leads; any other where identity and address lead
@@ -19,7 +20,7 @@ rom_WrittenRows::Finding rom_WrittenRows::FindOrEnter(const cls_Uid& uid, const 
 {
     const std::size_t mask = entries.size() - 1;
     bool isTaken = false;
-    for (std::size_t place = Place(uid.Hash()); entries[place].address; place = (place + 1) & mask)
+    for (std::size_t place = Place(uid); entries[place].address; place = (place + 1) & mask)
     {
         const Entry& entry = entries[place];
         if (entry.uid != uid)
@@ -53,7 +54,7 @@ rom_WrittenRows::Finding rom_WrittenRows::FindOrEnter(const cls_Uid& uid, const 
 void rom_WrittenRows::Enter(const Entry& entry)
 {
     const std::size_t mask = entries.size() - 1;
-    std::size_t place = Place(entry.uid.Hash());
+    std::size_t place = Place(entry.uid);
     while (entries[place].address && entries[place].uid != entry.uid)
         place = (place + 1) & mask;
     if (entries[place].address)

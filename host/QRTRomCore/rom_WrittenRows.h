@@ -40,6 +40,12 @@ private:
     };
 
     std::size_t Place(std::uint64_t hash) const { return hash >> shift; }
+    /// Objects are written much in the order in which they were made, so their places keep that order in
+    /// groups.
+    std::size_t Place(const cls_Uid& uid) const
+    {
+        return (Place(uid.GroupHash()) & ~std::size_t{cls_Uid::GroupSize - 1}) | uid.PlaceInGroup();
+    }
     /// An object's own place, apart from others of its identity.
     static std::uint64_t OwnHash(const cls_Uid& uid, const void* address);
     void Grow();
