@@ -48,7 +48,7 @@ enum Column
 };
 
 /// Names of the columns, as counted by `Column`.
-extern const char* const columns[ColumnCount];
+OVR_EXPORT extern const char* const columns[ColumnCount];
 /// Columns that make up the primary key.
 inline constexpr int keyColumns = 3;
 
