@@ -2,6 +2,7 @@
 
 #include "app_Catalog.h"
 #include "app_Check.h"
+#include "app_Dump.h"
 #include "app_Edit.h"
 #include "app_Error.h"
 #include "app_File.h"
@@ -469,6 +470,28 @@ private:
     bool lines = false;
 };
 
+class DumpCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.add_option("STORE", store, storeHelp)->required();
+        AddJson(parser);
+    }
+
+    int Run() override
+    {
+        if (json)
+            app_PrintDumpAsJson(store);
+        else
+            app_PrintDump(store);
+        return app_Fine;
+    }
+
+private:
+    std::string store;
+};
+
 template <class C>
 void Add(CLI::App& parser, int& exitCode, const char* name, const char* about)
 {
@@ -493,4 +516,5 @@ void app_AddCommands(CLI::App& parser, int& exitCode)
     Add<DeleteCommand>(parser, exitCode, "del", "Delete an object");
     Add<RenameCommand>(parser, exitCode, "rename", "Give an object another name");
     Add<CheckCommand>(parser, exitCode, "check", "Check objects by the rules of their classes");
+    Add<DumpCommand>(parser, exitCode, "dump", "Print the tables of a stored model, row by row");
 }

@@ -267,6 +267,48 @@ TEST_F(Store, IsShownToPeopleAndAsJson)
     EXPECT_EQ(2, RunProgram({"show", store, "amplitudes['ramp'].data"}).exitCode);
 }
 
+TEST_F(Store, IsDumpedRowByRow)
+{
+    const Answer text = RunProgram({"dump", store});
+    EXPECT_EQ(0, text.exitCode) << text.err;
+    for (const char* part :
+         {"rom_Root (1 row)\n", "\nkamC_Tabular: class 0x2440008, version 424, base 0x2440002 (1 row)\n",
+          "\nkamC_Amplitude: class 0x2440002, version 430 (2 rows)\n", "\"STEP\"", "1.7976931348623157e308",
+          "0x230001", "[0, 0, 1, 1]"})
+        EXPECT_THAT(text.out, HasSubstr(part));
+
+    const auto dump = nlohmann::json::parse(RunProgram({"dump", store, "--json"}).out);
+    EXPECT_EQ("model", dump.at("roots").at("rows")[0][1]);
+    bool found = false;
+    for (const auto& table : dump.at("tables"))
+    {
+        if (table.at("name") != "kamC_Decay")
+            continue;
+        found = true;
+        EXPECT_EQ("0x2440003", table.at("class"));
+        EXPECT_EQ(203, table.at("version"));
+        EXPECT_EQ("decayTime", table.at("columns").back());
+        EXPECT_EQ(2, table.at("rows")[0].back());
+    }
+    EXPECT_TRUE(found);
+    EXPECT_EQ("ramp", dump.at("elements").at("rows")[0][3]);
+}
+
+TEST_F(Store, IsDumpedAtVersionsThatCannotBeRead)
+{
+    Change("UPDATE rom_Class SET Version = 4711, \"##Check\" = NULL WHERE Name = 'kamC_Decay'");
+    ExpectRefused({"kamC_Decay", "4711"});
+    const Answer answer = RunProgram({"dump", store});
+    EXPECT_EQ(0, answer.exitCode) << answer.err;
+    EXPECT_THAT(answer.out, HasSubstr("kamC_Decay: class 0x2440003, version 4711"));
+}
+
+TEST_F(Store, IsNotDumpedIfItIsNone)
+{
+    folder.Write("model.vdb", "hello");
+    EXPECT_EQ(2, RunProgram({"dump", store}).exitCode);
+}
+
 TEST_F(Store, IsNotReplacedUnasked)
 {
     const std::string before = ContentOf(store);
