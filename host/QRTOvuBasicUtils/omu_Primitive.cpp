@@ -31,6 +31,7 @@ unsigned omu_Primitive::TypeId()
 void omu_Primitive::InitializeMetadata(cls_ClassRegistrar& registrar)
 {
     registrar.CreateClassMD("omu_Primitive", primitiveTypeId, primitiveVersion, nullptr, cls_RootId)
+        ->AddDtor(cow_DeleteHolder<omu_Primitive>)
         ->AddAttribute(cls_FieldHandle(0, kindField), cls_TypeInt, cls_RootId, cls_CollectionNone);
 }
 

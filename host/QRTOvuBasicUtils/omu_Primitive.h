@@ -8,21 +8,41 @@
 class cls_ClassRegistrar;
 class cls_ReadVisitor;
 class cls_WriteVisitor;
+class OVR_EXPORT omu_PrimBool;
+class OVR_EXPORT omu_PrimDouble;
 class omu_PrimEnumBase;
+class OVR_EXPORT omu_PrimInt;
+class omu_PrimList;
+class omu_PrimNone;
+class OVR_EXPORT omu_PrimString;
+class omu_PrimTuple;
 
 /// Sees a primitive by its kind.
 class OVR_EXPORT omu_PrimVisitor
 {
 public:
     virtual ~omu_PrimVisitor();
+    virtual void VisitNone(omu_PrimNone& primitive) = 0;
+    virtual void VisitBool(omu_PrimBool& primitive) = 0;
+    virtual void VisitInt(omu_PrimInt& primitive) = 0;
+    virtual void VisitDouble(omu_PrimDouble& primitive) = 0;
+    virtual void VisitString(omu_PrimString& primitive) = 0;
     virtual void VisitEnum(omu_PrimEnumBase& primitive) = 0;
+    virtual void VisitTuple(omu_PrimTuple& primitive) = 0;
+    virtual void VisitList(omu_PrimList& primitive) = 0;
 };
 
 /// What a primitive is. The numbers are stored.
 enum class omu_PrimKindEnm : int
 {
+    None = 1,
     String = 2,
-    Enum = 3
+    Enum = 3,
+    Bool = 4,
+    Int = 5,
+    Double = 6,
+    Tuple = 7,
+    List = 8
 };
 
 /// A value on its way between a script and an object. It exists while it is handed over, and has an identity

@@ -1,5 +1,6 @@
 #include "omu_PrimEnumBase.h"
 
+#include "PrimRecorder.h"
 #include "RowRecorder.h"
 #include "cls_ClassRegistrar.h"
 #include "nex_Exceptions.h"
@@ -47,14 +48,6 @@ protected:
     cow_String NamesInOrder() const override { return "TOTAL, STEP, GRÖSSE"; }
 };
 
-class Recorder : public omu_PrimVisitor
-{
-public:
-    void VisitEnum(omu_PrimEnumBase& primitive) override { seen = &primitive; }
-
-    omu_PrimEnumBase* seen = nullptr;
-};
-
 TEST(omu_PrimEnumBase, ShowsItsText)
 {
     const Stage stage("GRÖSSE");
@@ -95,8 +88,9 @@ TEST(omu_PrimEnumBase, CopiesEveryField)
 TEST(omu_PrimEnumBase, IsVisitedAsAnEnumeration)
 {
     Stage stage("STEP");
-    Recorder recorder;
+    PrimRecorder recorder;
     stage.Accept(&recorder);
+    EXPECT_EQ(recorder.kind, "enum");
     EXPECT_EQ(recorder.seen, &stage);
 }
 

@@ -1,0 +1,3 @@
+#include "omu_ShortcutBase.h"
+
+omu_ShortcutBase::~omu_ShortcutBase() = default;
