@@ -2,6 +2,7 @@
 
 #include "app_Error.h"
 #include "app_Json.h"
+#include "app_Show.h"
 #include "app_Table.h"
 #include "cls_Module.h"
 #include "typ_ArchCompTable.h"
@@ -293,13 +294,6 @@ namespace
 
 using enum app_Table::Align;
 
-std::string ShortText(const cls_Value& value)
-{
-    if (const std::string* text = value.AsText())
-        return *text;
-    return app_WriteJson(value, app_JsonLayout::OneLine);
-}
-
 std::string ClassLines(const Module& module)
 {
     app_Table table({Left, Left, Right, Left, Left});
@@ -342,8 +336,8 @@ void AddAttributeRows(app_Table& table, const cls_Description& layer, const Defa
     {
         const std::string name = attribute.field.Name().CString();
         table.Add({attribute.word, name == attribute.word ? "" : name,
-                   defaults.Has(attribute) ? ShortText(defaults.Of(attribute)) : "",
-                   KindText(*attribute.kind), layer.Name()});
+                   defaults.Has(attribute) ? app_ShortText(defaults.Of(attribute)) : "", layer.Name(),
+                   KindText(*attribute.kind)});
     }
 }
 
@@ -390,7 +384,7 @@ std::string app_CatalogTextOfClass(const cls_Description& description)
 
     const DefaultObject defaults(description);
     app_Table attributes({Left, Left, Left, Left, Left});
-    attributes.Add({"word", "stored as", "default", "kind", "declared in"});
+    attributes.Add({"word", "stored as", "default", "declared in", "kind"});
     AddAttributeRows(attributes, description, defaults);
     return text + '\n' + attributes.Text(2);
 }

@@ -3,7 +3,6 @@
 #include "app_Error.h"
 #include "app_File.h"
 #include "app_Json.h"
-#include "app_Show.h"
 #include "cls_Unset.h"
 
 #include <optional>
@@ -87,9 +86,7 @@ app_Change SetOwn(const cls_Description& description, void* object, const Settin
 
 const cls_Description& ClassOfNested(const cls_Value& value, const std::string& where)
 {
-    const cls_Value* const name = value.Find("class");
-    const std::string* const text = name ? name->AsText() : nullptr;
-    const cls_Description* const description = text ? cls_Descriptions().Find(*text) : nullptr;
+    const cls_Description* const description = app_ClassOfValue(value);
     if (!description)
         throw app_Error(where + " is " + value.Summary() + ", expected an object");
     return *description;
@@ -172,11 +169,6 @@ void app_RenameObject(ddr_Model& model, const app_Path& path, const std::string&
         throw app_Error(app_PathOf(path.repositoryWord, name) +
                         ": there is such an object already; --force replaces it");
     repository.RenameObject(path.name, name);
-}
-
-std::string app_DigestText(const cls_Value& value)
-{
-    return value.AsArray() || value.AsObject() ? value.Summary() : app_ShortText(value);
 }
 
 cls_Value app_ValueOfChanges(const std::string& path, const std::vector<app_Change>& changes)

@@ -32,9 +32,6 @@ void app_DeleteObject(ddr_Model& model, const app_Path& path);
 /// `replace` is false.
 void app_RenameObject(ddr_Model& model, const app_Path& path, const std::string& name, bool replace);
 
-/// A value in a few words, for people.
-std::string app_DigestText(const cls_Value& value);
-
 /// Changes as a value.
 cls_Value app_ValueOfChanges(const std::string& path, const std::vector<app_Change>& changes);
 

@@ -92,6 +92,13 @@ const cls_Description& app_ActualClass(const cls_Description& root, const void* 
     return actual ? *actual : root;
 }
 
+const cls_Description* app_ClassOfValue(const cls_Value& value)
+{
+    const cls_Value* const name = value.Find("class");
+    const std::string* const text = name ? name->AsText() : nullptr;
+    return text ? cls_Descriptions().Find(*text) : nullptr;
+}
+
 void app_InsertValue(ddr_Model& model, const std::string& repositoryWord, const std::string& name,
                      const cls_Value& value)
 {

@@ -35,6 +35,9 @@ void app_ForEachObject(const ddr_Model& model, const std::function<void(const ap
 /// The description of an object's actual class.
 const cls_Description& app_ActualClass(const cls_Description& root, const void* object);
 
+/// The class that an object's value names; null for a value that is no object.
+const cls_Description* app_ClassOfValue(const cls_Value& value);
+
 /// Puts the object that `value` describes into the model. Throws `cls_ValueError`, also if the name is taken.
 void app_InsertValue(ddr_Model& model, const std::string& repositoryWord, const std::string& name,
                      const cls_Value& value);

@@ -137,17 +137,9 @@ cls_Value* Element(cls_Value& value, std::size_t position)
     return elements && position < elements->size() ? &(*elements)[position] : nullptr;
 }
 
-/// The class that an exported object names; null for any other value.
-const cls_Description* ClassOf(const cls_Value& value)
-{
-    const cls_Value* const name = value.Find("class");
-    const std::string* const text = name ? name->AsText() : nullptr;
-    return text ? cls_Descriptions().Find(*text) : nullptr;
-}
-
 cls_Value* MemberByWord(cls_Value& value, const std::string& word, const std::string& where)
 {
-    const cls_Description* const description = ClassOf(value);
+    const cls_Description* const description = app_ClassOfValue(value);
     if (!description)
         return nullptr;
     return Member(value, app_FindAttribute(*description, word, where).field.Name().CString());

@@ -45,12 +45,9 @@ std::string DigestOf(const cls_Attribute& attribute, const cls_Value& value)
 {
     if (value.IsNull() || IsUnset(value))
         return "";
-    if (value.AsArray())
-        return value.AsArray()->empty() ? "" : SizeText(value);
-    const std::string* const text = value.AsText();
-    if (text && text->empty())
-        return "";
-    if (value.Find("class"))
+    if (value.AsArray() || (value.AsObject() && !app_ClassOfValue(value)))
+        return SizeText(value);
+    if (value.AsObject())
         return attribute.word;
     return fmt::format("{}={}", attribute.word, app_ShortText(value));
 }
@@ -103,6 +100,13 @@ std::string app_ShortText(const cls_Value& value)
     if (const std::string* text = value.AsText())
         return *text;
     return app_WriteJson(value, app_JsonLayout::OneLine);
+}
+
+std::string app_DigestText(const cls_Value& value)
+{
+    if (const cls_Description* description = app_ClassOfValue(value))
+        return app_LabelOf(*description);
+    return value.AsArray() || value.AsObject() ? SizeText(value) : app_ShortText(value);
 }
 
 std::string app_ShowModel(const ddr_Model& model, const std::string& source)
@@ -188,11 +192,8 @@ std::string AttributesText(const cls_Description& description, const cls_Value& 
 
 std::string ValueText(const cls_Value& value, std::size_t indent)
 {
-    if (const cls_Value* className = value.Find("class"))
-    {
-        const cls_Description* const description = cls_Descriptions().Find(*className->AsText());
+    if (const cls_Description* description = app_ClassOfValue(value))
         return app_LabelOf(*description) + '\n' + AttributesText(*description, value, indent);
-    }
     const cls_Value::Array* const elements = value.AsArray();
     if (!elements)
         return app_ShortText(value) + '\n';

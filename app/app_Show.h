@@ -15,3 +15,5 @@ std::string app_ShowObject(const app_Object& object);
 
 /// A value on one line, for people: a text as it is, an attribute that is not set as such.
 std::string app_ShortText(const cls_Value& value);
+/// The same, with no more than the size of what is no scalar.
+std::string app_DigestText(const cls_Value& value);
