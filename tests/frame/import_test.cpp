@@ -124,7 +124,7 @@ TEST(Import, GivesACollectionANewIdentity)
     kamC_Tabular tabular;
     const cls_Uid before = tabular.data.Uid();
     kamC_Tabular::Description().Import(static_cast<kamC_Amplitude*>(&tabular),
-                                       Object{{"data", Array{Array{0, 1}}}});
+                                       Object{{"data", Array{cls_Value(Array{0, 1})}}});
     EXPECT_NE(before, tabular.data.Uid());
 }
 
