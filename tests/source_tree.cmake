@@ -14,7 +14,7 @@ function(forbid why regex)
     set(faults "${faults}" PARENT_SCOPE)
 endfunction()
 
-set(library_folders containers entry frame repository upgrade host QRTOvuOvarisUtilities QRTRom QRTVdb)
+set(library_folders command containers entry frame repository upgrade host QRTOvuOvarisUtilities QRTRom QRTVdb)
 set(sources "")
 foreach(folder IN LISTS library_folders)
     file(GLOB_RECURSE found "${SOURCE_DIR}/${folder}/*.h" "${SOURCE_DIR}/${folder}/*.cpp")

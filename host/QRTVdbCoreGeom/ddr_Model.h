@@ -5,6 +5,11 @@
 #include <array>
 #include <cstddef>
 
+class ddr_Model;
+
+/// A model as programs and containers hold it.
+using ddr_ModelHandle = cow_COW<ddr_Model, cow_Virtual<ddr_Model>>;
+
 /// The root of a model: one slot for each repository that can be plugged in. A new model begins with the
 /// containers registered at that time; later registrations don't change it. Copying a model shares its
 /// containers, whatever their size, and asking one for writing makes it private first, so a copy is a
@@ -74,6 +79,12 @@ public:
     /// A copy that shares no storage; owned by the caller.
     ddr_Model* DeepCopy() const;
 
+    /// The model as it stands now, in constant time: the snapshot shares the containers, and what either side
+    /// changes afterwards is that side's alone.
+    ddr_ModelHandle Snapshot() const { return ddr_ModelHandle(Copy()); }
+    /// Brings back what the snapshot holds, in constant time. The snapshot can be used again.
+    void Restore(const ddr_Model& snapshot) { *this = snapshot; }
+
     // The repositories, owned by the model; null where nothing is plugged in. The Get form makes the
     // container private to this model first.
     mdl_Repository* GetAdaptiveMeshControls() { return Writable(AdaptiveMeshControls); }
@@ -137,6 +148,3 @@ private:
     std::array<ContainerHandle, SlotCount> containers;
     cls_Uid uid;
 };
-
-/// A model as programs and containers hold it.
-using ddr_ModelHandle = cow_COW<ddr_Model, cow_Virtual<ddr_Model>>;
