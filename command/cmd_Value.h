@@ -41,7 +41,11 @@ public:
     {
         std::string word;
         Dictionary arguments;
-        friend bool operator==(const Call&, const Call&) = default;
+        // A defaulted one would look into the pairs while the value's own class is not complete.
+        friend bool operator==(const Call& left, const Call& right)
+        {
+            return left.word == right.word && left.arguments == right.arguments;
+        }
     };
 
     /// None.
