@@ -41,6 +41,12 @@ std::int64_t rfm_ArrayStore::Insert(rfm_Type type, const void* values, std::int6
     return lastHandle;
 }
 
+void rfm_ArrayStore::Flush()
+{
+    if (inserter)
+        inserter->Flush();
+}
+
 std::int64_t rfm_ArrayStore::Open(std::int64_t handle, rfm_Type type)
 {
     if (!cursor)

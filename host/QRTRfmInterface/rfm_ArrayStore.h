@@ -16,6 +16,9 @@ public:
     /// Adds an array of `length` numbers as they lie in memory, a bool in one byte, and returns its handle.
     std::int64_t Insert(rfm_Type type, const void* values, std::int64_t length);
 
+    /// Makes the arrays that were inserted last readable.
+    void Flush();
+
     /// Goes to an array and returns its length. Throws if there is none of this type under the handle, or its
     /// bytes do not fit its length.
     std::int64_t Open(std::int64_t handle, rfm_Type type);

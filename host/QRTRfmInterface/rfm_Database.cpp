@@ -196,6 +196,7 @@ void rfm_Database::OpenForReading()
             Raise("A save was interrupted, and the file can't be brought back to what it was before.");
     }
     CheckHeader();
+    SetCacheSize();
     sqlite3_limit(connection, SQLITE_LIMIT_LENGTH,
                   static_cast<int>(std::clamp<std::int64_t>(fileSize, 100000, 1000000000)));
 }
@@ -209,6 +210,7 @@ void rfm_Database::OpenForReplacing()
         Raise("The file can't be written to.");
     BeginWriting();
     CheckHeader();
+    SetCacheSize();
 }
 
 void rfm_Database::OpenNew()
@@ -222,6 +224,14 @@ void rfm_Database::OpenNew()
     Execute("PRAGMA application_id = " + std::to_string(ApplicationId));
     Execute("PRAGMA user_version = " + std::to_string(FormatVersion));
     CreateContent();
+    SetCacheSize();
+}
+
+/// For after the file was checked, as this reads it. The size is in pages: one in bytes would be reckoned
+/// with the page size of before.
+void rfm_Database::SetCacheSize()
+{
+    Execute("PRAGMA cache_size = 1000");
 }
 
 void rfm_Database::RequireFile()
@@ -255,7 +265,6 @@ void rfm_Database::Defend()
     // None of these reads the file.
     Execute("PRAGMA cell_size_check = ON");
     Execute("PRAGMA mmap_size = 0");
-    Execute("PRAGMA cache_size = -16384");
     Execute("PRAGMA temp_store = MEMORY");
 }
 
@@ -367,6 +376,10 @@ void rfm_Database::RemoveContent()
 
 void rfm_Database::Commit()
 {
+    if (rootInserter)
+        rootInserter->Flush();
+    if (arrays)
+        arrays->Flush();
     rootInserter.reset();
     arrays.reset();
     Execute("COMMIT");
@@ -498,6 +511,7 @@ void rfm_Database::CreateTable(const rfm_TableInfo& table)
     const rfm_Cell cells[] = {rfm_Cell::Text(table.name.View()), rfm_Cell::Integer(table.version),
                               rfm_Cell::Integer(table.baseClassId)};
     catalogue.Insert(table.classId, cells);
+    catalogue.Flush();
     tables.reset();
 }
 

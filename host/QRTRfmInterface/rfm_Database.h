@@ -94,6 +94,7 @@ private:
     void RequireFile();
     void OpenConnection(const std::string& file, int flags);
     void Defend();
+    void SetCacheSize();
     void CloseConnection() noexcept;
     void CheckHeader();
     bool BeginReading();

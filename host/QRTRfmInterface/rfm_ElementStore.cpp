@@ -20,7 +20,7 @@ std::int64_t CheckOf(unsigned classId, std::int64_t oid, std::int64_t position, 
 } // namespace
 
 rfm_ElementInserter::rfm_ElementInserter(rfm_Database& database)
-    : statement(database, rfm_Elements::SqlToInsert(), rfm_Elements::name)
+    : batch(database, rfm_Elements::name, rfm_Elements::ColumnCount)
 {}
 
 void rfm_ElementInserter::Insert(unsigned classId, std::int64_t oid, std::int64_t position,
@@ -32,15 +32,16 @@ void rfm_ElementInserter::Insert(unsigned classId, std::int64_t oid, std::int64_
 void rfm_ElementInserter::Insert(unsigned classId, std::int64_t oid, std::int64_t position,
                                  const rfm_Element& element, const rfm_Cell& check)
 {
-    statement.Bind(1 + rfm_Elements::ClassId, std::int64_t{classId});
-    statement.Bind(1 + rfm_Elements::Oid, oid);
-    statement.Bind(1 + rfm_Elements::Position, position);
-    statement.Bind(1 + rfm_Elements::Key, element.key);
-    statement.Bind(1 + rfm_Elements::Value, element.value);
-    statement.Bind(1 + rfm_Elements::TargetClassId, element.targetClassId);
-    statement.Bind(1 + rfm_Elements::TargetOid, element.targetOid);
-    statement.Bind(1 + rfm_Elements::Check, check);
-    statement.Run(oid);
+    rfm_Cell row[rfm_Elements::ColumnCount];
+    row[rfm_Elements::ClassId] = rfm_Cell::Integer(classId);
+    row[rfm_Elements::Oid] = rfm_Cell::Integer(oid);
+    row[rfm_Elements::Position] = rfm_Cell::Integer(position);
+    row[rfm_Elements::Key] = element.key;
+    row[rfm_Elements::Value] = element.value;
+    row[rfm_Elements::TargetClassId] = element.targetClassId;
+    row[rfm_Elements::TargetOid] = element.targetOid;
+    row[rfm_Elements::Check] = check;
+    batch.Add(row);
 }
 
 rfm_ElementCursor::rfm_ElementCursor(rfm_Database& database)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ovr_Export.h"
-#include "rfm_Statement.h"
+#include "rfm_RowBatch.h"
 
 /// One element of a collection.
 struct rfm_Element
@@ -12,7 +12,7 @@ struct rfm_Element
     rfm_Cell targetOid;     ///< null for an absent object
 };
 
-/// Puts elements into collections.
+/// Puts elements into collections. They are there for reading after `Flush`.
 class OVR_EXPORT rfm_ElementInserter
 {
 public:
@@ -23,8 +23,10 @@ public:
     void Insert(unsigned classId, std::int64_t oid, std::int64_t position, const rfm_Element& element,
                 const rfm_Cell& check);
 
+    void Flush() { batch.Flush(); }
+
 private:
-    rfm_Statement statement;
+    rfm_RowBatch batch;
 };
 
 /// Goes through the elements of one collection after another, in order of their positions.

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ovr_Export.h"
-#include "rfm_Statement.h"
+#include "rfm_RowBatch.h"
 #include "rfm_TableForm.h"
 
-/// Puts rows into one table.
+/// Puts rows into one table. They are there for reading after `Flush`.
 class OVR_EXPORT rfm_Inserter
 {
 public:
@@ -15,8 +15,10 @@ public:
     /// The same with a check number that is given: a null cell for a row without one.
     void Insert(std::int64_t key, const rfm_Cell* cells, const rfm_Cell& check);
 
+    void Flush() { batch.Flush(); }
+
 private:
-    rfm_Statement statement;
-    int count;
+    rfm_RowBatch batch;
+    std::vector<rfm_Cell> row; ///< key, cells, check number
     unsigned checkSeed;
 };

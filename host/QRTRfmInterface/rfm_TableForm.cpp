@@ -19,14 +19,6 @@ const char* NameOf(rfm_ColumnKind kind)
     }
     return "";
 }
-
-std::string Parameters(std::size_t count)
-{
-    std::string list = "?";
-    for (std::size_t i = 1; i < count; ++i)
-        list += ",?";
-    return list;
-}
 } // namespace
 
 std::string rfm_Quoted(const cow_String& name)
@@ -87,11 +79,6 @@ std::string rfm_TableForm::SqlToCreate() const
     return sql + ", " + rfm_Quoted(rfm_CheckColumn) + " INTEGER)";
 }
 
-std::string rfm_TableForm::SqlToInsert() const
-{
-    return "INSERT INTO " + rfm_Quoted(name) + " VALUES(" + Parameters(columns.size() + 2) + ")";
-}
-
 std::string rfm_TableForm::SqlToRead() const
 {
     std::string sql = "SELECT " + rfm_Quoted(keyColumn);
@@ -109,11 +96,6 @@ std::string rfm_Elements::SqlToCreate()
     return "CREATE TABLE \"rom_Element\" (\"ClassID\" INTEGER, \"OID\" INTEGER, \"Position\" INTEGER, "
            "\"Key\", \"Value\", \"Target#ClassID\" INTEGER, \"Target#OID\" INTEGER, \"##Check\" INTEGER, "
            "PRIMARY KEY(\"ClassID\", \"OID\", \"Position\")) WITHOUT ROWID";
-}
-
-std::string rfm_Elements::SqlToInsert()
-{
-    return "INSERT INTO \"rom_Element\" VALUES(" + Parameters(ColumnCount) + ")";
 }
 
 std::string rfm_Elements::SqlToRead()

@@ -23,7 +23,6 @@ struct OVR_EXPORT rfm_TableForm
     static rfm_TableForm Arrays();
 
     std::string SqlToCreate() const;
-    std::string SqlToInsert() const;
     /// Rows from a key on, in ascending order: key, columns, check number.
     std::string SqlToRead() const;
 };
@@ -53,7 +52,6 @@ OVR_EXPORT extern const char* const columns[ColumnCount];
 inline constexpr int keyColumns = 3;
 
 std::string SqlToCreate();
-std::string SqlToInsert();
 /// The elements of one collection by position, without the collection's own two columns.
 std::string SqlToRead();
 /// All elements.

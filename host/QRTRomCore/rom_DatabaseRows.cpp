@@ -6,6 +6,14 @@ rom_DatabaseSink::rom_DatabaseSink(rfm_Database& database) : database(database) 
 
 rom_DatabaseSink::~rom_DatabaseSink() = default;
 
+void rom_DatabaseSink::Flush()
+{
+    for (const std::unique_ptr<rfm_Inserter>& inserter : inserters)
+        inserter->Flush();
+    if (elements)
+        elements->Flush();
+}
+
 cow_String rom_DatabaseSink::Name() const
 {
     return database.Path();

@@ -7,12 +7,14 @@
 
 #include <memory>
 
-/// Puts rows into a file. Tables are made when they are first named.
+/// Puts rows into a file. Tables are made when they are first named. The rows are in the file after `Flush`.
 class OVR_EXPORT rom_DatabaseSink final : public rom_RowSink
 {
 public:
     explicit rom_DatabaseSink(rfm_Database& database);
     ~rom_DatabaseSink() override;
+
+    void Flush();
 
     cow_String Name() const override;
     int AddTable(const rfm_TableInfo& table) override;

@@ -44,6 +44,7 @@ struct rom_StoreWriter::Save
     void Finish()
     {
         session.Finish();
+        sink->Flush();
         sink.reset();
         database.Commit();
     }

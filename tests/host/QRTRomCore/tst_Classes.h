@@ -95,7 +95,7 @@ public:
     static void InitializeMetadata(cls_ClassRegistrar& registrar);
 
     /// Thrown from the writing of a node whose number is this, after its first attributes.
-    static constexpr int throwingNumber = -666;
+    static constexpr int throwingNumber = 123456789;
 
     Handle child;
     std::vector<Handle> list;

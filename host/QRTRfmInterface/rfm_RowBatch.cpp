@@ -1,0 +1,91 @@
+#include "rfm_RowBatch.h"
+
+#include "rfm_TableForm.h"
+
+#include <algorithm>
+
+namespace
+{
+std::size_t BytesOf(const rfm_Cell& cell)
+{
+    return cell.Is(rfm_CellKind::Text) || cell.Is(rfm_CellKind::Blob) ? cell.size : 0;
+}
+} // namespace
+
+rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const cow_String& table, int width)
+    : database(database),
+      table(table),
+      width(width),
+      rowLimit(std::clamp(mostParameters / width, 1, mostRows)),
+      single(database, SqlFor(1), table),
+      gathered(static_cast<std::size_t>(rowLimit * width))
+{}
+
+std::string rfm_RowBatch::SqlFor(int rows) const
+{
+    std::string row = "(?";
+    for (int i = 1; i < width; ++i)
+        row += ",?";
+    row += ")";
+    std::string sql = "INSERT INTO " + rfm_Quoted(table) + " VALUES" + row;
+    for (int i = 1; i < rows; ++i)
+        sql += "," + row;
+    return sql;
+}
+
+void rfm_RowBatch::Add(const rfm_Cell* cells)
+{
+    std::size_t bytes = 0;
+    for (int i = 0; i < width; ++i)
+        bytes += BytesOf(cells[i]);
+    if (bytes > arenaSize)
+    {
+        Run(single, cells, 1);
+        return;
+    }
+    if (arenaUsed + bytes > arenaSize)
+        Flush();
+    if (!arena)
+        arena = std::make_unique<char[]>(arenaSize);
+    rfm_Cell* row = gathered.data() + static_cast<std::ptrdiff_t>(rowCount) * width;
+    for (int i = 0; i < width; ++i)
+        row[i] = Kept(cells[i]);
+    if (++rowCount == rowLimit)
+        Flush();
+}
+
+rfm_Cell rfm_RowBatch::Kept(const rfm_Cell& cell)
+{
+    const std::size_t size = BytesOf(cell);
+    if (size == 0)
+        return cell;
+    rfm_Cell kept = cell;
+    kept.bytes = arena.get() + arenaUsed;
+    std::memcpy(arena.get() + arenaUsed, cell.bytes, size);
+    arenaUsed += size;
+    return kept;
+}
+
+void rfm_RowBatch::Flush()
+{
+    const int rows = rowCount;
+    rowCount = 0;
+    arenaUsed = 0;
+    if (rows == rowLimit && rows > 1)
+    {
+        if (!several)
+            several = std::make_unique<rfm_Statement>(database, SqlFor(rowLimit), table);
+        Run(*several, gathered.data(), rows);
+        return;
+    }
+    for (int i = 0; i < rows; ++i)
+        Run(single, gathered.data() + static_cast<std::ptrdiff_t>(i) * width, 1);
+}
+
+void rfm_RowBatch::Run(rfm_Statement& statement, const rfm_Cell* cells, int rows)
+{
+    const int count = rows * width;
+    for (int i = 0; i < count; ++i)
+        statement.Bind(i + 1, cells[i]);
+    statement.Run();
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "ovr_Export.h"
+#include "rfm_Statement.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+/// Gathers rows of one table and puts them in several at a time, which takes less than a statement for each.
+/// Rows that were not flushed are lost with the batch.
+class OVR_EXPORT rfm_RowBatch
+{
+public:
+    /// `width` is the count of the table's columns.
+    rfm_RowBatch(rfm_Database& database, const cow_String& table, int width);
+
+    /// Takes a row of `width` cells; texts and blobs are copied.
+    void Add(const rfm_Cell* cells);
+    /// Puts in what has been gathered.
+    void Flush();
+
+private:
+    /// Takes as many rows at once as the count of parameters allows.
+    static constexpr int mostRows = 16;
+    static constexpr int mostParameters = 600;
+    static constexpr std::size_t arenaSize = 32768;
+
+    std::string SqlFor(int rows) const;
+    void Run(rfm_Statement& statement, const rfm_Cell* cells, int rows);
+    rfm_Cell Kept(const rfm_Cell& cell);
+
+    rfm_Database& database;
+    cow_String table;
+    int width;
+    int rowLimit;
+    rfm_Statement single;
+    std::unique_ptr<rfm_Statement> several;
+    std::vector<rfm_Cell> gathered;
+    int rowCount = 0;
+    std::unique_ptr<char[]> arena;
+    std::size_t arenaUsed = 0;
+};
