@@ -7,5 +7,4 @@ class OVR_EXPORT omu_PrimBool final : public omu_PrimValue<omu_PrimBool, bool>
 {
 public:
     using omu_PrimValue<omu_PrimBool, bool>::omu_PrimValue;
-    using omu_PrimValue<omu_PrimBool, bool>::operator==;
 };

@@ -7,5 +7,4 @@ class OVR_EXPORT omu_PrimDouble final : public omu_PrimValue<omu_PrimDouble, dou
 {
 public:
     using omu_PrimValue<omu_PrimDouble, double>::omu_PrimValue;
-    using omu_PrimValue<omu_PrimDouble, double>::operator==;
 };

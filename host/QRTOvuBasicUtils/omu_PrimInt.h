@@ -7,5 +7,4 @@ class OVR_EXPORT omu_PrimInt final : public omu_PrimValue<omu_PrimInt, int>
 {
 public:
     using omu_PrimValue<omu_PrimInt, int>::omu_PrimValue;
-    using omu_PrimValue<omu_PrimInt, int>::operator==;
 };

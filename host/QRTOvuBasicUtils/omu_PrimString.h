@@ -7,5 +7,4 @@ class OVR_EXPORT omu_PrimString final : public omu_PrimValue<omu_PrimString, cow
 {
 public:
     using omu_PrimValue<omu_PrimString, cow_String>::omu_PrimValue;
-    using omu_PrimValue<omu_PrimString, cow_String>::operator==;
 };
