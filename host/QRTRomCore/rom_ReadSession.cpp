@@ -668,7 +668,7 @@ rom_RowReader& rom_ReadSession::OpenRow(rom_RowReader* referrer, ClassState& sta
 
 rom_ReadSession::ClassState& rom_ReadSession::StateOf(unsigned classId)
 {
-    if (classId == lastClassId)
+    if (lastClass && classId == lastClass->plan->ClassId())
         return *lastClass;
     ClassState& state = classes[classId];
     if (!state.plan)
@@ -682,7 +682,6 @@ rom_ReadSession::ClassState& rom_ReadSession::StateOf(unsigned classId)
         state.canBeBuilt = !plan->IsCollection() && plan->Metadata()->IsConcrete() && plan->CanBeHeld();
         state.plan = std::move(plan);
     }
-    lastClassId = classId;
     lastClass = &state;
     return state;
 }

@@ -70,7 +70,6 @@ private:
 
     rom_RowSource& source;
     std::unordered_map<unsigned, ClassState> classes;
-    unsigned lastClassId = 0;
     ClassState* lastClass = nullptr;
     std::vector<HeldObject> held;
     std::size_t heldCount = 0;

@@ -565,7 +565,7 @@ rom_RowWriter& rom_WriteSession::NewWriter()
 
 rom_WriteSession::ClassState& rom_WriteSession::StateOf(unsigned classId)
 {
-    if (classId == lastClassId)
+    if (lastClass && classId == lastClass->plan->ClassId())
         return *lastClass;
     ClassState& state = classes[classId];
     if (!state.plan)
@@ -579,7 +579,6 @@ rom_WriteSession::ClassState& rom_WriteSession::StateOf(unsigned classId)
         state.table = sink.AddTable(plan->Table());
         state.plan = std::move(plan);
     }
-    lastClassId = classId;
     lastClass = &state;
     return state;
 }

@@ -65,7 +65,6 @@ private:
     rom_TwinRule twinRule;
     std::exception_ptr failure;
     std::unordered_map<unsigned, ClassState> classes;
-    unsigned lastClassId = 0;
     ClassState* lastClass = nullptr;
     rom_WrittenRows written;
     std::vector<std::unique_ptr<rom_RowWriter>> writers;

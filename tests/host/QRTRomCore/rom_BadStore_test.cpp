@@ -127,6 +127,7 @@ constexpr Damage damages[] = {
      "unknown class (0x3039)"},
     {"AbstractClass", "UPDATE tst_Node SET \"child#ClassID\" = 0xFF0001 WHERE OID = 1", "tst_Node", 1,
      "child", "No object can be of class tst_Part"},
+    {"ClassZero", "UPDATE rom_Root SET \"Target#ClassID\" = 0", "", noRow, "", "unknown class (0x0)"},
     {"HugeClass", "UPDATE tst_Node SET \"child#ClassID\" = 1 << 40 WHERE OID = 1", "tst_Node", 1, "child",
      "class id"},
     {"HalfReference", "UPDATE tst_Node SET \"child#OID\" = NULL WHERE OID = 1", "tst_Node", 1, "child",
