@@ -65,6 +65,10 @@ class CatalogCommand : public Command
 public:
     void AddTo(CLI::App& parser) override
     {
+        parser.footer(
+            "  vdbattr catalog                    modules with their classes and constructor words\n"
+            "  vdbattr catalog TabularAmplitude   one class: words, defaults, kinds of its attributes\n"
+            "  vdbattr catalog --json             everything, for other programs");
         parser.add_option("CLASS", className, "Class name or constructor word; without it, all classes");
         AddJson(parser);
     }
@@ -89,6 +93,9 @@ class NewCommand : public Command
 public:
     void AddTo(CLI::App& parser) override
     {
+        parser.footer(
+            "  vdbattr new model.vdb\n"
+            "  vdbattr new model.vdb \"amplitudes['ramp']\" TabularAmplitude data='[[0, 0], [1, 1]]'");
         parser.add_option("STORE", store, storeHelp)->required();
         CLI::Option* const pathOption = parser.add_option("PATH", path, "Path of a new object in STORE");
         parser.add_option("CLASS", className, "Its constructor word or class name")->needs(pathOption);
@@ -134,6 +141,11 @@ class ImportCommand : public Command
 public:
     void AddTo(CLI::App& parser) override
     {
+        parser.footer(
+            "A model is an object of repositories of named objects; left-out attributes take their "
+            "defaults:\n"
+            "  {\"amplitudes\": {\"ramp\": {\"class\": \"kamC_Tabular\", \"data\": [[0, 0], [1, 1]]}}}\n"
+            "A model that is refused leaves no trace.");
         parser.add_option("MODEL", model, "Model as JSON")->required();
         parser.add_option("STORE", store, "Stored model to make")->required();
         parser.add_flag("--force", force, forceHelp);
@@ -164,6 +176,9 @@ class ExportCommand : public Command
 public:
     void AddTo(CLI::App& parser) override
     {
+        parser.footer(
+            "What is exported and imported again is the same model, and exported again the same text.\n"
+            "  vdbattr export model.vdb | diff reviewed.json -");
         parser.add_option("STORE", store, modelHelp)->required();
         parser.add_option("-o,--output", output, "File to write; standard output without it");
         parser.add_flag("--json", json, "The form that is written in any case");
@@ -189,6 +204,8 @@ class ShowCommand : public Command
 public:
     void AddTo(CLI::App& parser) override
     {
+        parser.footer("  vdbattr show model.vdb\n"
+                      "  vdbattr show model.vdb \"amplitudes['ramp']\"");
         parser.add_option("STORE", store, modelHelp)->required();
         parser.add_option("PATH", path, "Path of one object; without it, all objects are listed");
         AddJson(parser);
@@ -234,6 +251,9 @@ class GetCommand : public Command
 public:
     void AddTo(CLI::App& parser) override
     {
+        parser.footer("  vdbattr get model.vdb \"amplitudes['ramp']\" timeSpan\n"
+                      "  vdbattr get model.vdb \"amplitudes['ramp'].data[1][0]\"\n"
+                      "  vdbattr get model.vdb \"amplitudes['record'].baselineCorrection\"");
         parser.add_option("STORE", store, modelHelp)->required();
         parser.add_option("PATH", path, pathHelp)->required();
         parser.add_option("WORD", word, "Attribute; without it, the whole value");
@@ -310,6 +330,7 @@ class DeleteCommand : public Command
 public:
     void AddTo(CLI::App& parser) override
     {
+        parser.footer("  vdbattr del model.vdb \"amplitudes['ramp']\"");
         parser.add_option("STORE", store, storeHelp)->required();
         parser.add_option("PATH", path, "Path of the object")->required();
     }
@@ -332,6 +353,7 @@ class RenameCommand : public Command
 public:
     void AddTo(CLI::App& parser) override
     {
+        parser.footer("  vdbattr rename model.vdb \"amplitudes['ramp']\" rise");
         parser.add_option("STORE", store, storeHelp)->required();
         parser.add_option("PATH", path, "Path of the object")->required();
         parser.add_option("NAME", name, "Its new name")->required();
@@ -475,6 +497,9 @@ class DumpCommand : public Command
 public:
     void AddTo(CLI::App& parser) override
     {
+        parser.footer("A store of any version is shown, also one that cannot be read as a model. Texts stand "
+                      "in quotes,\n"
+                      "bytes as x'00ff', and - for nothing.");
         parser.add_option("STORE", store, storeHelp)->required();
         AddJson(parser);
     }

@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/wait.h>
@@ -31,12 +34,9 @@ void Redirect(const std::string& path, int flags, int stream)
     ::_exit(127);
 }
 
-} // namespace
-
-Answer RunProgram(const std::vector<std::string>& arguments, const std::string& input)
+/// Starts the program, with its standard streams in the folder; its process.
+pid_t StartProgram(const std::vector<std::string>& arguments, const ScratchFolder& folder)
 {
-    const ScratchFolder folder;
-    folder.Write("in", input);
     std::vector<std::string> all{"vdbattr"};
     all.insert(all.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers;
@@ -46,10 +46,34 @@ Answer RunProgram(const std::vector<std::string>& arguments, const std::string& 
     const pid_t child = ::fork();
     if (child == 0)
         BecomeProgram(pointers, folder);
+    return child;
+}
+
+int ExitCodeOf(pid_t child)
+{
     int status = 0;
     EXPECT_EQ(child, ::waitpid(child, &status, 0));
-    const int exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+} // namespace
+
+Answer RunProgram(const std::vector<std::string>& arguments, const std::string& input)
+{
+    const ScratchFolder folder;
+    folder.Write("in", input);
+    const int exitCode = ExitCodeOf(StartProgram(arguments, folder));
     return {exitCode, ContentOf(folder.Path("out")), ContentOf(folder.Path("err"))};
+}
+
+void KillProgram(const std::vector<std::string>& arguments, int milliseconds)
+{
+    const ScratchFolder folder;
+    folder.Write("in", "");
+    const pid_t child = StartProgram(arguments, folder);
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    ::kill(child, SIGKILL);
+    ExitCodeOf(child);
 }
 
 ScratchFolder::ScratchFolder()

@@ -14,6 +14,9 @@ struct Answer
 /// Runs vdbattr with these arguments, and `input` as its standard input.
 Answer RunProgram(const std::vector<std::string>& arguments, const std::string& input = "");
 
+/// Runs vdbattr and kills it after a moment, if it has not ended by then.
+void KillProgram(const std::vector<std::string>& arguments, int milliseconds);
+
 /// A folder for one test, gone when the test ends.
 class ScratchFolder
 {

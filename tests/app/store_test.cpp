@@ -453,4 +453,51 @@ TEST_F(Store, IsRefusedWithAReferenceToAnotherClass)
     ExpectRefused({"kamC_Tabular", "baselineCorrection"});
 }
 
+TEST_F(Store, IsRefusedWithAnArrayThatDoesNotFitItsShape)
+{
+    const char* const changes[] = {
+        "UPDATE cls_List SET \"Target#Length\" = 5, \"##Check\" = NULL WHERE \"Target#Collection\" = 82",
+        "UPDATE cls_List SET \"Target#Columns\" = 3, \"##Check\" = NULL WHERE \"Target#Collection\" = 82",
+        "UPDATE cls_List SET \"Target#Length\" = 4000000000000, \"##Check\" = NULL",
+        "UPDATE rfm_Array SET Bytes = x'00', \"##Check\" = NULL",
+        "UPDATE rfm_Array SET Length = -1, \"##Check\" = NULL",
+    };
+    const std::string whole = ContentOf(store);
+    for (const char* change : changes)
+    {
+        folder.Write("model.vdb", whole);
+        Change(change);
+        SCOPED_TRACE(change);
+        ExpectRefused({});
+    }
+}
+
+TEST_F(Store, IsRefusedWithTwoNamedObjectsInOneRow)
+{
+    // The container's map is made to hold itself.
+    Change("UPDATE rom_Element SET \"Target#ClassID\" = ClassID, \"Target#OID\" = OID, \"##Check\" = NULL");
+    ExpectRefused({});
+}
+
+TEST_F(Store, HoldsTheOldModelOrTheNewOneWhenASaveIsKilled)
+{
+    const std::string oldModel = RunProgram({"export", store}).out;
+    std::string json = "{\"amplitudes\": {";
+    for (int i = 0; i < 4000; ++i)
+        json += (i == 0 ? "\"n" : ", \"n") + std::to_string(i) +
+                "\": {\"class\": \"kamC_Tabular\", \"data\": [[0, 0], [1, 1]]}";
+    const std::string input = folder.Write("new.json", json + "}}");
+    const std::string newModel = RunProgram({"export", input}).out;
+    const std::string before = ContentOf(store);
+    for (int milliseconds = 0; milliseconds < 200; milliseconds += 10)
+    {
+        folder.Write("model.vdb", before);
+        KillProgram({"import", "--force", input, store}, milliseconds);
+        const Answer answer = RunProgram({"export", store});
+        ASSERT_EQ(0, answer.exitCode) << answer.err;
+        ASSERT_TRUE(answer.out == oldModel || answer.out == newModel) << milliseconds;
+        std::filesystem::remove(store + "-journal");
+    }
+}
+
 } // namespace
