@@ -118,11 +118,8 @@ private:
     [[noreturn]] void Raise(const std::string& fault) const
     {
         std::size_t column = 1;
-        for (std::size_t i = 0; i < std::min(position, text.size());)
-        {
-            cmd_NextCharacter(text, i);
-            ++column;
-        }
+        for (std::size_t i = 0; i < std::min(position, text.size()); ++i)
+            column += cmd_IsCharacterStart(text, i);
         throw cmd_Error("column " + std::to_string(column) + ": " + fault);
     }
 
@@ -433,9 +430,13 @@ private:
         }
         if (code == 0)
             RaiseNull();
+        // The form in which Python writes a byte that is not UTF-8.
         if (code >= 0xDC80 && code <= 0xDCFF)
-            code += cmd_LoneByte - 0xDC80;
-        else if (code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF))
+        {
+            result += static_cast<char>(code & 0xFF);
+            return;
+        }
+        if (code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF))
             Raise("no character has this number");
         cmd_AppendCharacter(result, code);
     }

@@ -2,10 +2,7 @@
 
 #include "cls_Value.h"
 #include "cmd_Utf8.h"
-
-#include <charconv>
-#include <cmath>
-#include <cstdlib>
+#include "omu_Repr.h"
 
 cmd_Value::cmd_Value(bool value) : form(value) {}
 
@@ -86,50 +83,6 @@ const std::string* cmd_Value::AsName() const
 namespace
 {
 
-std::string NumberText(double number)
-{
-    if (std::isnan(number))
-        return "float('nan')";
-    if (std::isinf(number))
-        return number > 0.0 ? "float('inf')" : "float('-inf')";
-    char text[32];
-    const double magnitude = std::fabs(number);
-    const bool isFixed = magnitude == 0.0 || (magnitude >= 1e-4 && magnitude < 1e16);
-    const auto format = isFixed ? std::chars_format::fixed : std::chars_format::scientific;
-    std::string result(text, std::to_chars(text, text + sizeof text, number, format).ptr);
-    if (isFixed && result.find('.') == std::string::npos)
-        result += ".0";
-    return result;
-}
-
-void AppendEscape(std::string& result, const char* form, int digits, unsigned code)
-{
-    result += form;
-    for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4)
-        result += "0123456789abcdef"[(code >> shift) & 0xF];
-}
-
-/// Characters that Python's repr escapes, or that would end the line for some reader.
-bool IsEscaped(char32_t character)
-{
-    return character < 0x20 || (character >= 0x7F && character <= 0xA0) || character == 0xAD ||
-           character == 0x2028 || character == 0x2029;
-}
-
-void AppendEscaped(std::string& result, char32_t character)
-{
-    if (character == '\n')
-        result += "\\n";
-    else if (character == '\r')
-        result += "\\r";
-    else if (character == '\t')
-        result += "\\t";
-    else if (character < 0x100)
-        AppendEscape(result, "\\x", 2, character);
-    else
-        AppendEscape(result, "\\u", 4, character);
-}
-
 std::string DictionaryText(const cmd_Value::Dictionary& dictionary)
 {
     std::string text = "{";
@@ -164,23 +117,7 @@ constexpr std::size_t longestSummary = 60;
 
 std::string cmd_QuotedText(const std::string& text)
 {
-    const bool isDouble = text.find('\'') != std::string::npos && text.find('"') == std::string::npos;
-    const char quote = isDouble ? '"' : '\'';
-    std::string result(1, quote);
-    for (std::size_t position = 0; position < text.size();)
-    {
-        const std::size_t begin = position;
-        const char32_t character = cmd_NextCharacter(text, position);
-        if (character >= cmd_LoneByte)
-            AppendEscape(result, "\\u", 4, character);
-        else if (IsEscaped(character))
-            AppendEscaped(result, character);
-        else if (character == U'\\' || character == static_cast<char32_t>(quote))
-            result.append({'\\', static_cast<char>(character)});
-        else
-            result.append(text, begin, position - begin);
-    }
-    return result + quote;
+    return omu_ReprOfText(text.c_str()).CString();
 }
 
 std::string cmd_Value::Text() const
@@ -190,7 +127,7 @@ std::string cmd_Value::Text() const
     if (const std::int64_t* number = AsInteger())
         return std::to_string(*number);
     if (const double* number = AsDouble())
-        return NumberText(*number);
+        return omu_ReprOfDouble(*number).CString();
     if (const std::string* text = AsText())
         return cmd_QuotedText(*text);
     if (const Symbol* symbol = AsSymbol())

@@ -62,6 +62,28 @@ void AppendPlain(std::string& out, char c, char quote)
         out += c;
 }
 
+char32_t CodeOf(std::string_view character)
+{
+    const auto byte = [character](std::size_t i) { return static_cast<unsigned char>(character[i]); };
+    char32_t code = byte(0) & (0xFFu >> (character.size() + 1));
+    for (std::size_t i = 1; i < character.size(); ++i)
+        code = (code << 6) | (byte(i) & 0x3Fu);
+    return code;
+}
+
+/// A character beyond ASCII: itself, but for blanks, invisible characters and ends of lines, which some
+/// reader of the text would take for what they are not.
+void AppendBeyondAscii(std::string& out, std::string_view character)
+{
+    const char32_t code = CodeOf(character);
+    if (code <= 0xA0 || code == 0xAD)
+        AppendEscape(out, "\\x%02x", code);
+    else if (code == 0x2028 || code == 0x2029)
+        AppendEscape(out, "\\u%04x", code);
+    else
+        out.append(character);
+}
+
 cow_String Quoted(std::string_view text, char quote)
 {
     std::string out(1, quote);
@@ -73,7 +95,7 @@ cow_String Quoted(std::string_view text, char quote)
         else if (length == 0)
             AppendEscape(out, "\\udc%02x", static_cast<unsigned char>(text.front()));
         else
-            out.append(text.substr(0, length));
+            AppendBeyondAscii(out, text.substr(0, length));
         text.remove_prefix(length == 0 ? 1 : length);
     }
     out += quote;

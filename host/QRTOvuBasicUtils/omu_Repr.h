@@ -11,8 +11,8 @@ OVR_EXPORT cow_String omu_TextOfDouble(double number);
 OVR_EXPORT cow_String omu_ReprOfDouble(double number);
 
 /// A text as Python source text, in single quotes unless it has such quotes and no double ones. Control
-/// characters are escaped; other UTF-8 stays as it is, and a byte that is not UTF-8 becomes the lone
-/// surrogate that Python puts in its place ("\udcff").
+/// characters, ends of lines and blanks beyond ASCII are escaped; other UTF-8 stays as it is, and a byte that
+/// is not UTF-8 becomes the lone surrogate that Python puts in its place ("\udcff").
 OVR_EXPORT cow_String omu_ReprOfText(const cow_String& text);
 
 /// The same always in double quotes.

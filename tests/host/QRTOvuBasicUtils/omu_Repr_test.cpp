@@ -68,25 +68,28 @@ TEST(Repr, QuotesTexts)
         const char* text;
         const char* repr;
         const char* quoted;
-    } rows[] = {{"", "''", "\"\""},
-                {"ramp", "'ramp'", "\"ramp\""},
-                {"it's", "\"it's\"", "\"it's\""},
-                {"say \"a\"", "'say \"a\"'", "\"say \\\"a\\\"\""},
-                {"'\"", "'\\'\"'", "\"'\\\"\""},
-                {"a\\b", "'a\\\\b'", "\"a\\\\b\""},
-                {"a\nb\tc\rd", "'a\\nb\\tc\\rd'", "\"a\\nb\\tc\\rd\""},
-                {"\x01\x7f", "'\\x01\\x7f'", "\"\\x01\\x7f\""},
-                {"Größe €", "'Größe €'", "\"Größe €\""},
-                {"\xF0\x9F\x98\x80", "'\xF0\x9F\x98\x80'", "\"\xF0\x9F\x98\x80\""},
-                {"\xff"
-                 "a",
-                 "'\\udcffa'", "\"\\udcffa\""},
-                {"\xC3", "'\\udcc3'", "\"\\udcc3\""},
-                {"\xC0\x80", "'\\udcc0\\udc80'", "\"\\udcc0\\udc80\""},
-                {"\xE0\x80\x80", "'\\udce0\\udc80\\udc80'", "\"\\udce0\\udc80\\udc80\""},
-                {"\xED\xA0\x80", "'\\udced\\udca0\\udc80'", "\"\\udced\\udca0\\udc80\""},
-                {"\xF4\x90\x80\x80", "'\\udcf4\\udc90\\udc80\\udc80'", "\"\\udcf4\\udc90\\udc80\\udc80\""},
-                {"100%s", "'100%s'", "\"100%s\""}};
+    } rows[] = {
+        {"", "''", "\"\""},
+        {"ramp", "'ramp'", "\"ramp\""},
+        {"it's", "\"it's\"", "\"it's\""},
+        {"say \"a\"", "'say \"a\"'", "\"say \\\"a\\\"\""},
+        {"'\"", "'\\'\"'", "\"'\\\"\""},
+        {"a\\b", "'a\\\\b'", "\"a\\\\b\""},
+        {"a\nb\tc\rd", "'a\\nb\\tc\\rd'", "\"a\\nb\\tc\\rd\""},
+        {"\x01\x7f", "'\\x01\\x7f'", "\"\\x01\\x7f\""},
+        {"Größe €", "'Größe €'", "\"Größe €\""},
+        {"\xC2\x85\xC2\xA0\xC2\xAD", "'\\x85\\xa0\\xad'", "\"\\x85\\xa0\\xad\""},
+        {"\xC2\xA1\xE2\x80\xA8\xE2\x80\xA9", "'\xC2\xA1\\u2028\\u2029'", "\"\xC2\xA1\\u2028\\u2029\""},
+        {"\xF0\x9F\x98\x80", "'\xF0\x9F\x98\x80'", "\"\xF0\x9F\x98\x80\""},
+        {"\xff"
+         "a",
+         "'\\udcffa'", "\"\\udcffa\""},
+        {"\xC3", "'\\udcc3'", "\"\\udcc3\""},
+        {"\xC0\x80", "'\\udcc0\\udc80'", "\"\\udcc0\\udc80\""},
+        {"\xE0\x80\x80", "'\\udce0\\udc80\\udc80'", "\"\\udce0\\udc80\\udc80\""},
+        {"\xED\xA0\x80", "'\\udced\\udca0\\udc80'", "\"\\udced\\udca0\\udc80\""},
+        {"\xF4\x90\x80\x80", "'\\udcf4\\udc90\\udc80\\udc80'", "\"\\udcf4\\udc90\\udc80\\udc80\""},
+        {"100%s", "'100%s'", "\"100%s\""}};
     for (const auto& row : rows)
     {
         EXPECT_STREQ(omu_ReprOfText(row.text).CString(), row.repr);
