@@ -7,15 +7,19 @@
 #include "app_Error.h"
 #include "app_File.h"
 #include "app_Json.h"
-#include "app_Path.h"
 #include "app_Show.h"
 #include "app_Store.h"
 #include "app_Table.h"
+#include "cmd_Difference.h"
+#include "cmd_Error.h"
+#include "cmd_Locate.h"
+#include "cmd_Statement.h"
 
 #include <iostream>
 #include <memory>
 
 #include <fmt/format.h>
+#include <unistd.h>
 
 namespace
 {
@@ -101,6 +105,7 @@ public:
         parser.add_option("CLASS", className, "Its constructor word or class name")->needs(pathOption);
         parser.add_option("WORD=VALUE", settings, "Its attributes, as for `set`");
         parser.add_flag("--force", force, forceHelp);
+        options.AddTo(parser);
     }
 
     int Run() override
@@ -122,11 +127,11 @@ private:
 
     void MakeObject() const
     {
-        ddr_ModelHandle model = app_ReadStore(store);
-        const app_Path where = app_ParsePath(path);
-        app_MakeObject(*model.Get(), where, app_FindClass(className), settings, force);
-        WarnOf(app_FindObject(*model, where));
-        app_WriteStore(model, store, app_SaveMode::InPlace);
+        app_Editor editor(store, options);
+        const cmd_Path where = cmd_ParsePath(path);
+        app_MakeObject(editor.Session(), where, app_FindClass(className), settings, force);
+        WarnOf(app_FindObject(editor.Model(), where));
+        editor.Save();
     }
 
     std::string store;
@@ -134,6 +139,7 @@ private:
     std::string className;
     std::vector<std::string> settings;
     bool force = false;
+    app_EditOptions options;
 };
 
 class ImportCommand : public Command
@@ -232,8 +238,8 @@ private:
 
     void ShowObject(const ddr_Model& model) const
     {
-        const app_Path where = app_ParsePath(path);
-        if (!where.steps.empty())
+        const cmd_Path where = cmd_ParsePath(path);
+        if (where.steps.size() > 2)
             throw app_Error("show: " + path + ": expected an object; `vdbattr get` prints a value in one");
         const app_Object object = app_FindObject(model, where);
         if (json)
@@ -263,12 +269,11 @@ public:
     int Run() override
     {
         const ddr_ModelHandle model = app_ReadModel(store);
-        app_Path where = app_ParsePath(path);
-        if (!word.empty())
-            where.steps.push_back({app_Path::Step::Sort::Word, word});
-        const app_Object object = app_FindObject(*model, where);
-        cls_Value whole = object.description.Export(object.object);
-        Print(app_FindValue(whole, where));
+        const cmd_Path object = cmd_ParsePath(path);
+        const cmd_Path where = word.empty() ? object : object.WithWord(word);
+        const cmd_Located located = cmd_Locate(*model, where);
+        cls_Value whole = located.description.Export(located.object);
+        Print(cmd_FindWithin(whole, where));
         return app_Fine;
     }
 
@@ -292,21 +297,25 @@ class SetCommand : public Command
 public:
     void AddTo(CLI::App& parser) override
     {
-        parser.footer("VALUE is JSON or plain text: smooth=0.25 timeSpan=TOTAL data='[[0, 0], [1, 1]]'\n"
-                      "baselineCorrection='{\"intervals\": [0, 5]}' baselineCorrection=null smooth=unset.\n"
-                      "Nothing is refused for a broken rule; it is warned of, and `vdbattr check` lists it.");
+        parser.footer(
+            "VALUE is JSON, a value as scripts write it, or plain text: smooth=0.25 timeSpan=TOTAL\n"
+            "smooth=unset data='[[0, 0], [1, 1]]' baselineCorrection='{\"intervals\": [0, 5]}'\n"
+            "baselineCorrection=null 'baselineCorrection=BaselineCorrection(intervals=(0, 5))'.\n"
+            "All values are set together, and none if a rule would be broken. With --unchecked broken\n"
+            "rules are only warned of, and `vdbattr check` lists them.");
         parser.add_option("STORE", store, storeHelp)->required();
         parser.add_option("PATH", path, "Path of an object, or of an object in one")->required();
         parser.add_option("WORD=VALUE", settings, "Attributes and their new values")->required();
+        options.AddTo(parser);
         AddJson(parser);
     }
 
     int Run() override
     {
-        ddr_ModelHandle model = app_ReadStore(store);
-        const app_Path where = app_ParsePath(path);
-        const std::vector<app_Change> changes = app_SetValues(*model.Get(), where, settings);
-        app_WriteStore(model, store, app_SaveMode::InPlace);
+        app_Editor editor(store, options);
+        const cmd_Path where = cmd_ParsePath(path);
+        const std::vector<app_Change> changes = app_SetValues(editor.Session(), where, settings);
+        editor.Save();
         for (const app_Change& change : changes)
         {
             if (!json)
@@ -315,7 +324,7 @@ public:
         }
         if (json)
             PrintValue(app_ValueOfChanges(path, changes));
-        WarnOf(app_FindObject(*model, where));
+        WarnOf(app_FindObject(editor.Model(), where));
         return app_Fine;
     }
 
@@ -323,6 +332,7 @@ private:
     std::string store;
     std::string path;
     std::vector<std::string> settings;
+    app_EditOptions options;
 };
 
 class DeleteCommand : public Command
@@ -333,19 +343,21 @@ public:
         parser.footer("  vdbattr del model.vdb \"amplitudes['ramp']\"");
         parser.add_option("STORE", store, storeHelp)->required();
         parser.add_option("PATH", path, "Path of the object")->required();
+        options.AddJournalTo(parser);
     }
 
     int Run() override
     {
-        ddr_ModelHandle model = app_ReadStore(store);
-        app_DeleteObject(*model.Get(), app_ParsePath(path));
-        app_WriteStore(model, store, app_SaveMode::InPlace);
+        app_Editor editor(store, options);
+        editor.Session().Delete(cmd_ParsePath(path));
+        editor.Save();
         return app_Fine;
     }
 
 private:
     std::string store;
     std::string path;
+    app_EditOptions options;
 };
 
 class RenameCommand : public Command
@@ -358,13 +370,14 @@ public:
         parser.add_option("PATH", path, "Path of the object")->required();
         parser.add_option("NAME", name, "Its new name")->required();
         parser.add_flag("--force", force, "Replace an object that has the name");
+        options.AddJournalTo(parser);
     }
 
     int Run() override
     {
-        ddr_ModelHandle model = app_ReadStore(store);
-        app_RenameObject(*model.Get(), app_ParsePath(path), name, force);
-        app_WriteStore(model, store, app_SaveMode::InPlace);
+        app_Editor editor(store, options);
+        editor.Session().Rename(cmd_ParsePath(path), name, force);
+        editor.Save();
         return app_Fine;
     }
 
@@ -373,6 +386,103 @@ private:
     std::string path;
     std::string name;
     bool force = false;
+    app_EditOptions options;
+};
+
+class EditCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.footer(
+            "Commands are lines of Python, as a journal has them; a path alone prints what is there:\n"
+            "  model.TabularAmplitude(name='ramp', data=((0.0, 0.0), (1.0, 1.0)))\n"
+            "  model.amplitudes['ramp'].setValues(timeSpan=TOTAL, smooth=0.25)\n"
+            "  model.amplitudes['ramp'].rename(name='rise')\n"
+            "  del model.amplitudes['rise']\n"
+            "  model.undo()\n"
+            "  model.amplitudes['ramp'].data\n"
+            "The store is changed at the end of the input. A line that is refused ends a script, and\n"
+            "nothing is changed; at a terminal the next line is asked for.");
+        parser.add_option("STORE", store, storeHelp)->required();
+        options.AddTo(parser);
+    }
+
+    int Run() override
+    {
+        app_Editor editor(store, options);
+        isTerminal = ::isatty(STDIN_FILENO) == 1;
+        std::string line;
+        for (int number = 1; Ask(), std::getline(std::cin, line); ++number)
+            RunLine(editor.Session(), line, number);
+        editor.Save();
+        return app_Fine;
+    }
+
+private:
+    void Ask() const
+    {
+        if (isTerminal)
+            app_PrintNow(">>> ");
+    }
+
+    void RunLine(cmd_Session& session, const std::string& line, int number) const
+    {
+        const std::string where = fmt::format("line {}: ", number);
+        try
+        {
+            const std::string answer = app_RunLine(session, line);
+            if (!answer.empty())
+                app_Print(answer + '\n');
+        }
+        catch (const app_RuleError& error)
+        {
+            if (!isTerminal)
+                throw app_RuleError(where + error.what());
+            app_Warn(error.what());
+        }
+        catch (const cmd_Error& error)
+        {
+            if (!isTerminal)
+                throw app_Error(where + error.what());
+            app_Warn(error.what());
+        }
+    }
+
+    std::string store;
+    app_EditOptions options;
+    bool isTerminal = false;
+};
+
+class DiffCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.footer(
+            "Objects that are only in B are shown with +, those only in A with -, those that differ\n"
+            "with ~ and their attributes in A and in B. Exit code: 0 if nothing differs, 1 if\n"
+            "something does, 2 if a model cannot be read.");
+        parser.add_option("A", before, modelHelp)->required();
+        parser.add_option("B", after, modelHelp)->required();
+        AddJson(parser);
+    }
+
+    int Run() override
+    {
+        const ddr_ModelHandle old = app_ReadModel(before);
+        const ddr_ModelHandle current = app_ReadModel(after);
+        const std::vector<cmd_ObjectDifference> differences = cmd_Compare(*old, *current);
+        if (json)
+            PrintValue(cmd_ValueOfDifferences(differences), app_JsonLayout::Records);
+        else
+            app_Print(cmd_TextOfDifferences(differences));
+        return differences.empty() ? app_Fine : app_Findings;
+    }
+
+private:
+    std::string before;
+    std::string after;
 };
 
 class CheckCommand : public Command
@@ -540,6 +650,8 @@ void app_AddCommands(CLI::App& parser, int& exitCode)
     Add<SetCommand>(parser, exitCode, "set", "Change attributes of an object");
     Add<DeleteCommand>(parser, exitCode, "del", "Delete an object");
     Add<RenameCommand>(parser, exitCode, "rename", "Give an object another name");
+    Add<EditCommand>(parser, exitCode, "edit", "Carry out commands from standard input, with undo and redo");
+    Add<DiffCommand>(parser, exitCode, "diff", "Show what differs between two models");
     Add<CheckCommand>(parser, exitCode, "check", "Check objects by the rules of their classes");
     Add<DumpCommand>(parser, exitCode, "dump", "Print the tables of a stored model, row by row");
 }

@@ -1,9 +1,13 @@
 #include "app_Edit.h"
 
-#include "app_Error.h"
 #include "app_File.h"
 #include "app_Json.h"
 #include "cls_Unset.h"
+#include "cmd_Attributes.h"
+#include "cmd_Error.h"
+#include "cmd_Locate.h"
+#include "cmd_Script.h"
+#include "cmd_Statement.h"
 
 #include <optional>
 
@@ -24,151 +28,164 @@ Setting ParseSetting(const std::string& setting)
     return {setting.substr(0, equals), setting.substr(equals + 1)};
 }
 
-/// The text as JSON, or nothing if it is none. A text that begins like JSON must be JSON.
-std::optional<cls_Value> TryJson(const Setting& setting)
+std::optional<cmd_Value> TryScript(const std::string& text)
 {
     try
     {
-        return app_ParseJson(setting.text, setting.word);
+        return cmd_ParseValue(text);
     }
-    catch (const app_Error&)
+    catch (const cmd_Error&)
     {
-        const char first = setting.text.empty() ? '\0' : setting.text.front();
-        if (first == '[' || first == '{' || first == '"')
-            throw;
         return std::nullopt;
     }
 }
 
-/// What the text of a setting stands for in an attribute of this kind.
-cls_Value ValueOf(const Setting& setting, const cls_Kind& kind)
-{
-    const std::optional<cls_Value> json = TryJson(setting);
-    const bool isQuoted = json && json->AsText();
-    switch (kind.Id())
-    {
-    case cls_KindEnm::String:
-        return isQuoted ? *json : cls_Value(setting.text);
-    case cls_KindEnm::Enum:
-        return isQuoted || (json && json->AsInteger()) ? *json : cls_Value(setting.text);
-    case cls_KindEnm::Double:
-        return setting.text == "unset" ? cls_Value(cls_UnsetDouble) : json.value_or(setting.text);
-    case cls_KindEnm::Int:
-        return setting.text == "unset" ? cls_Value(cls_UnsetInt) : json.value_or(setting.text);
-    default:
-        return json.value_or(setting.text);
-    }
-}
-
-/// Imports a value into an attribute; errors name the attribute.
-void Import(const cls_Attribute& attribute, void* object, const cls_Value& value, const std::string& where)
+/// The text as JSON or as scripts write it, or nothing if it is neither. A text that begins like JSON must be
+/// one of them.
+std::optional<cmd_Value> TryValue(const Setting& setting)
 {
     try
     {
-        attribute.kind->Import(attribute.member(object), value);
+        return cmd_ValueOfPlain(app_ParseJson(setting.text, setting.word));
     }
-    catch (const cls_ValueError& error)
+    catch (const app_Error&)
     {
-        throw error.Within(where);
+        std::optional<cmd_Value> value = TryScript(setting.text);
+        const char first = setting.text.empty() ? '\0' : setting.text.front();
+        if (!value && (first == '[' || first == '{' || first == '"'))
+            throw;
+        return value;
     }
 }
 
-/// Sets one attribute of the object itself.
-app_Change SetOwn(const cls_Description& description, void* object, const Setting& setting,
-                  const std::string& path)
+/// What the text of a setting stands for in an attribute of this kind.
+cmd_Value ValueOf(const Setting& setting, const cls_Kind& kind)
 {
-    const cls_Attribute& attribute = app_FindAttribute(description, setting.word, path);
-    app_Change change{attribute.word, attribute.kind->Export(attribute.Member(object)), {}};
-    Import(attribute, object, ValueOf(setting, *attribute.kind), path + '.' + attribute.word);
-    change.after = attribute.kind->Export(attribute.Member(object));
-    return change;
+    const std::optional<cmd_Value> value = TryValue(setting);
+    switch (kind.Id())
+    {
+    case cls_KindEnm::String:
+        return value && value->AsText() ? *value : cmd_Value(setting.text);
+    case cls_KindEnm::Double:
+        return setting.text == "unset" ? cmd_Value(cls_UnsetDouble) : value.value_or(setting.text);
+    case cls_KindEnm::Int:
+        return setting.text == "unset" ? cmd_Value(cls_UnsetInt) : value.value_or(setting.text);
+    default:
+        return value.value_or(setting.text);
+    }
 }
 
-const cls_Description& ClassOfNested(const cls_Value& value, const std::string& where)
+cmd_Arguments ArgumentsOf(const cls_Description& description, const std::vector<std::string>& settings)
 {
-    const cls_Description* const description = app_ClassOfValue(value);
-    if (!description)
-        throw app_Error(where + " is " + value.Summary() + ", expected an object");
-    return *description;
+    cmd_Arguments arguments;
+    for (const std::string& text : settings)
+    {
+        const Setting setting = ParseSetting(text);
+        const cls_Attribute& attribute = cmd_RequireAttribute(description, setting.word, setting.text);
+        arguments.emplace_back(setting.word, ValueOf(setting, *attribute.kind));
+    }
+    return arguments;
 }
 
-/// Sets one attribute of an object within the object: the value is taken out, changed and put back.
-app_Change SetNested(const cls_Description& description, void* object, const Setting& setting,
-                     const app_Path& path)
+/// Runs a command on the object at a path; a rule that it breaks is told with the path.
+template <class Command>
+void Obeying(const std::string& path, Command command)
 {
-    const app_Path::Step& first = path.steps.front();
-    const cls_Attribute& outer = app_FindAttribute(description, first.text, path.Text(0));
-    cls_Value whole = description.Export(object);
-    cls_Value& nested = app_FindValue(whole, path);
-    const std::string where = path.Text(path.steps.size());
-    const cls_Description& nestedClass = ClassOfNested(nested, where);
-    const cls_Attribute& inner = app_FindAttribute(nestedClass, setting.word, where);
-    app_Path toValue = path;
-    toValue.steps.push_back({app_Path::Step::Sort::Word, inner.word});
-    cls_Value& target = app_FindValue(whole, toValue);
-    app_Change change{inner.word, target, ValueOf(setting, *inner.kind)};
-    target = change.after;
-    Import(outer, object, *whole.Find(outer.field.Name().CString()), path.Text(0) + '.' + outer.word);
-    return change;
+    try
+    {
+        command();
+    }
+    catch (const nex_PrimException<atr_String, 1>& rule)
+    {
+        throw app_RuleError((path.empty() ? "" : path + ": ") + rule.what());
+    }
 }
 
-void RequireObjectPath(const app_Path& path)
+/// The object at a path as a value.
+cls_Value ObjectAt(const ddr_Model& model, const cmd_Path& path)
 {
-    if (!path.steps.empty())
-        throw app_Error(path.Text(path.steps.size()) + ": expected the path of an object, as " +
-                        path.Text(0));
+    const cmd_Located located = cmd_Locate(model, path);
+    cls_Value whole = located.description.Export(located.object);
+    cls_Value part = cmd_FindWithin(whole, path);
+    if (!cmd_ClassOfValue(part))
+        throw app_Error(path.Text() + " is " + part.Summary() + ", expected an object");
+    return part;
 }
 
 } // namespace
 
-std::vector<app_Change> app_SetValues(ddr_Model& model, const app_Path& path,
+void app_EditOptions::AddJournalTo(CLI::App& parser)
+{
+    parser.add_option("--journal", journal, "File to which each command is added as a line of Python");
+}
+
+void app_EditOptions::AddTo(CLI::App& parser)
+{
+    AddJournalTo(parser);
+    parser.add_flag("--unchecked", unchecked, "Take changes that break a rule");
+}
+
+app_Editor::app_Editor(const std::string& store, const app_EditOptions& options)
+    : store(store),
+      journal(options.journal),
+      session(app_ReadStore(store), options.unchecked ? cmd_Session::Checks::None : cmd_Session::Checks::All)
+{
+    session.SetJournal([this](const std::string& line) { lines += line + '\n'; });
+    if (!journal.empty())
+        app_AppendToFile(journal, "");
+}
+
+void app_Editor::Save()
+{
+    if (lines.empty())
+        return;
+    app_WriteStore(session.Model(), store, app_SaveMode::InPlace);
+    if (!journal.empty())
+        app_AppendToFile(journal, lines);
+    lines.clear();
+}
+
+std::vector<app_Change> app_SetValues(cmd_Session& session, const cmd_Path& path,
                                       const std::vector<std::string>& settings)
 {
-    const cls_Description& description = app_FindObject(model, path).description;
-    void* const object = app_Repository(model, path.repositoryWord).Object(path.name);
+    const cls_Value before = ObjectAt(*session.Model(), path);
+    const cls_Description& description = *cmd_ClassOfValue(before);
+    const cmd_Arguments arguments = ArgumentsOf(description, settings);
+    Obeying(path.Text(), [&] { session.SetValues(path, arguments); });
+    const cls_Value after = ObjectAt(*session.Model(), path);
     std::vector<app_Change> changes;
-    for (const std::string& setting : settings)
+    for (const auto& argument : arguments)
     {
-        const Setting parsed = ParseSetting(setting);
-        changes.push_back(path.steps.empty() ? SetOwn(description, object, parsed, path.Text(0))
-                                             : SetNested(description, object, parsed, path));
+        const char* const name = description.FindByWord(argument.first)->field.Name().CString();
+        changes.push_back({argument.first, *before.Find(name), *after.Find(name)});
     }
     return changes;
 }
 
-void app_MakeObject(ddr_Model& model, const app_Path& path, const cls_Description& description,
+void app_MakeObject(cmd_Session& session, const cmd_Path& path, const cls_Description& description,
                     const std::vector<std::string>& settings, bool replace)
 {
-    RequireObjectPath(path);
-    mdl_NamedObjects& repository = app_Repository(model, path.repositoryWord);
+    if (path.steps.size() != 2)
+        throw app_Error(path.Text() + ": expected the path of an object, as model.amplitudes['ramp']");
+    const mdl_NamedObjects& repository = cmd_ConstRepository(*session.Model(), path.steps[0].text);
+    const std::string& name = path.steps[1].text;
     const cls_Description& root = repository.ObjectRoot();
-    if (description.IsAbstract() || !description.IsA(root.Id()))
-        throw app_Error(path.Text(0) + ": expected a class derived from " + root.Name() +
+    const char* const constructor = cmd_ConstructorOf(description);
+    if (!constructor || description.IsAbstract() || !description.IsA(root.Id()))
+        throw app_Error(path.Text() + ": expected a class derived from " + root.Name() +
                         " that has objects, found " + description.Name());
-    if (repository.ConstObject(path.name) && !replace)
-        throw app_Error(path.Text(0) + ": there is such an object already; --force replaces it");
-    cls_AnyObject object(description, description.Info().create());
-    for (const std::string& setting : settings)
-        SetOwn(description, object.Get(), ParseSetting(setting), path.Text(0));
-    repository.InsertObject(path.name, std::move(object));
-}
-
-void app_DeleteObject(ddr_Model& model, const app_Path& path)
-{
-    RequireObjectPath(path);
-    app_FindObject(model, path);
-    app_Repository(model, path.repositoryWord).RemoveObject(path.name);
-}
-
-void app_RenameObject(ddr_Model& model, const app_Path& path, const std::string& name, bool replace)
-{
-    RequireObjectPath(path);
-    app_FindObject(model, path);
-    mdl_NamedObjects& repository = app_Repository(model, path.repositoryWord);
     if (repository.ConstObject(name) && !replace)
-        throw app_Error(app_PathOf(path.repositoryWord, name) +
-                        ": there is such an object already; --force replaces it");
-    repository.RenameObject(path.name, name);
+        throw app_Error(path.Text() + ": there is such an object already; --force replaces it");
+    cmd_Arguments arguments = ArgumentsOf(description, settings);
+    arguments.insert(arguments.begin(), {"name", name});
+    Obeying(path.Text(), [&] { session.Make(cmd_Path(), constructor, arguments); });
+}
+
+std::string app_RunLine(cmd_Session& session, const std::string& line)
+{
+    std::string answer;
+    Obeying("", [&] { answer = cmd_Run(session, line); });
+    return answer;
 }
 
 cls_Value app_ValueOfChanges(const std::string& path, const std::vector<app_Change>& changes)

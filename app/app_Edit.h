@@ -1,10 +1,43 @@
 #pragma once
 
-#include "app_Path.h"
+#include "app_Error.h"
 #include "app_Store.h"
+#include "cmd_Session.h"
 
-#include <string>
-#include <vector>
+#include <CLI/CLI.hpp>
+
+/// How a store is changed, as the command line says.
+struct app_EditOptions
+{
+    std::string journal;
+    bool unchecked = false;
+
+    void AddTo(CLI::App& parser);
+    /// The journal alone, for commands that break no rule.
+    void AddJournalTo(CLI::App& parser);
+};
+
+/// A store under change: its model takes commands, and all of them reach the file together, or none.
+class app_Editor
+{
+public:
+    /// Reads the store. Throws `rom_StoreException`, and `app_Error` if the journal cannot be opened.
+    app_Editor(const std::string& store, const app_EditOptions& options);
+
+    cmd_Session& Session() { return session; }
+
+    const ddr_Model& Model() const { return *session.Model(); }
+
+    /// Puts the changed model into the store and adds the commands to the journal. Throws
+    /// `rom_StoreException` or `app_Error`.
+    void Save();
+
+private:
+    std::string store;
+    std::string journal;
+    std::string lines;
+    cmd_Session session;
+};
 
 /// An attribute that was changed.
 struct app_Change
@@ -14,23 +47,19 @@ struct app_Change
     cls_Value after;
 };
 
-/// Sets attributes of the object that the path leads to, or of an object within it; each setting is
-/// "word=value" with JSON or plain text as value. Throws `app_Error` or `cls_ValueError`; the model may then
-/// hold a part of the changes.
-std::vector<app_Change> app_SetValues(ddr_Model& model, const app_Path& path,
+/// Sets attributes of the object that the path leads to; each setting is "word=value" with JSON, a value as
+/// scripts write it, or plain text. Throws `cmd_Error`, `app_Error` or `app_RuleError`; nothing is changed
+/// then.
+std::vector<app_Change> app_SetValues(cmd_Session& session, const cmd_Path& path,
                                       const std::vector<std::string>& settings);
 
 /// Adds a new object of a class, with settings as above. Throws as above, also if the name is taken and
 /// `replace` is false.
-void app_MakeObject(ddr_Model& model, const app_Path& path, const cls_Description& description,
+void app_MakeObject(cmd_Session& session, const cmd_Path& path, const cls_Description& description,
                     const std::vector<std::string>& settings, bool replace);
 
-/// Deletes the object. Throws `app_Error` if it is not there.
-void app_DeleteObject(ddr_Model& model, const app_Path& path);
-
-/// Gives the object another name. Throws `app_Error` if it is not there, or if the name is taken and
-/// `replace` is false.
-void app_RenameObject(ddr_Model& model, const app_Path& path, const std::string& name, bool replace);
+/// Carries out a line of a script and returns what it says. Throws as above.
+std::string app_RunLine(cmd_Session& session, const std::string& line);
 
 /// Changes as a value.
 cls_Value app_ValueOfChanges(const std::string& path, const std::vector<app_Change>& changes);

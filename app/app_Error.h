@@ -11,11 +11,18 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// A change that is refused because a rule would be broken; the program ends with `app_Findings`.
+class app_RuleError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
 /// What the program tells its caller when it ends.
 enum app_ExitCode : int
 {
     app_Fine = 0,
-    app_Findings = 1, ///< A rule is broken.
+    app_Findings = 1, ///< A rule is broken, or two models differ.
     app_Unusable = 2  ///< Input that cannot be read, or a command line that cannot be understood.
 };
 

@@ -26,9 +26,9 @@ using File = std::unique_ptr<std::FILE, Close>;
     throw app_Error(path + ": cannot be " + action + ": " + std::strerror(errno));
 }
 
-void WriteAll(const std::string& path, const std::string& content)
+void WriteAll(const std::string& path, const std::string& content, const char* mode = "wb")
 {
-    File file(std::fopen(path.c_str(), "wb"));
+    File file(std::fopen(path.c_str(), mode));
     if (!file || std::fwrite(content.data(), 1, content.size(), file.get()) != content.size())
         Raise(path, "written");
     if (std::fclose(file.release()) != 0)
@@ -76,6 +76,11 @@ void app_WriteFile(const std::string& path, const std::string& content)
         std::remove(fresh.c_str());
         throw;
     }
+}
+
+void app_AppendToFile(const std::string& path, const std::string& content)
+{
+    WriteAll(path, content, "ab");
 }
 
 void app_Print(const std::string& text)

@@ -8,6 +8,9 @@ std::string app_ReadFile(const std::string& path, std::size_t limit = std::strin
 /// Puts `content` in place of a file, which holds the old content or the new at any time. Throws `app_Error`.
 void app_WriteFile(const std::string& path, const std::string& content);
 
+/// Adds `content` to the end of a file, and makes the file if there is none. Throws `app_Error`.
+void app_AppendToFile(const std::string& path, const std::string& content);
+
 /// Writes to standard output. Throws `app_Error` if it cannot be written.
 void app_Print(const std::string& text);
 /// The same, and sees to it that the text is out.

@@ -1,5 +1,6 @@
 #include "app_Model.h"
 
+#include "cmd_Locate.h"
 #include "mdl_Repository.h"
 
 namespace
@@ -84,6 +85,12 @@ void app_ForEachObject(const ddr_Model& model, const std::function<void(const ap
                 act({word, name, app_ActualClass(repository.ObjectRoot(), object), object});
         }
     }
+}
+
+app_Object app_FindObject(const ddr_Model& model, const cmd_Path& path)
+{
+    const cmd_Located located = cmd_Locate(model, path);
+    return {path.steps[0].text, path.steps[1].text, located.description, located.object};
 }
 
 const cls_Description& app_ActualClass(const cls_Description& root, const void* object)

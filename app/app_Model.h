@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cmd_Path.h"
 #include "ddr_Model.h"
 #include "mdl_NamedObjects.h"
 
@@ -31,6 +32,9 @@ int app_ObjectCount(const ddr_Model& model);
 
 /// Calls `act` with each object of each repository, in order.
 void app_ForEachObject(const ddr_Model& model, const std::function<void(const app_Object&)>& act);
+
+/// The object of the model that the path begins with. Throws `cmd_Error` if it is not there.
+app_Object app_FindObject(const ddr_Model& model, const cmd_Path& path);
 
 /// The description of an object's actual class.
 const cls_Description& app_ActualClass(const cls_Description& root, const void* object);

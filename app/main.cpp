@@ -12,18 +12,18 @@ namespace
 {
 
 constexpr const char* about =
-    "Makes, imports, exports, shows, edits and checks stored models of attributes.\n"
+    "Makes, imports, exports, shows, edits, compares and checks stored models of attributes.\n"
     "\n"
     "A stored model is one file. Objects in it go by paths such as amplitudes['ramp'], and their attributes\n"
-    "by words; `vdbattr catalog` lists all there are. Exit codes: 0 fine, 1 a rule is broken, 2 input or\n"
-    "command that cannot be used.";
+    "by words; `vdbattr catalog` lists all there are. Exit codes: 0 fine, 1 a rule is broken or models\n"
+    "differ, 2 input or command that cannot be used.";
 
 constexpr const char* farewell = "`vdbattr COMMAND --help` tells more of a command.";
 
-int Fail(const std::string& message)
+int Fail(const std::string& message, app_ExitCode exitCode = app_Unusable)
 {
     std::fprintf(stderr, "vdbattr: %s\n", app_OnOneLine(message).c_str());
-    return app_Unusable;
+    return exitCode;
 }
 
 bool HasCommand(CLI::App& parser, const std::string& name)
@@ -79,6 +79,10 @@ int main(int argc, char** argv)
     {
         const Library library;
         return Run(argc, argv);
+    }
+    catch (const app_RuleError& error)
+    {
+        return Fail(error.what(), app_Findings);
     }
     catch (const std::bad_alloc&)
     {

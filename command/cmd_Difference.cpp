@@ -5,6 +5,7 @@
 #include "mdl_Repository.h"
 
 #include <cmath>
+#include <unordered_set>
 
 namespace
 {
@@ -138,30 +139,39 @@ public:
 
     void Run()
     {
-        for (const std::string& name : NamesOf(before))
-            CompareObject(name);
-        for (const std::string& name : NamesOf(after))
+        const std::vector<std::string> oldNames = NamesOf(before);
+        const std::vector<std::string> currentNames = NamesOf(after);
+        const Names oldSet(oldNames.begin(), oldNames.end());
+        const Names currentSet(currentNames.begin(), currentNames.end());
+        for (const std::string& name : oldNames)
+            CompareObject(name, currentSet);
+        for (const std::string& name : currentNames)
         {
-            if (const void* object = ObjectOf(after, name); !ObjectOf(before, name) && object)
+            if (const void* object = ObjectOf(after, name, currentSet);
+                object && !ObjectOf(before, name, oldSet))
                 Add(cmd_ObjectDifference::Sort::Added, name, ClassOf(*after, object));
         }
     }
 
 private:
+    using Names = std::unordered_set<std::string>;
+
     static std::vector<std::string> NamesOf(const mdl_NamedObjects* repository)
     {
         return repository ? repository->ObjectNames() : std::vector<std::string>();
     }
 
-    static const void* ObjectOf(const mdl_NamedObjects* repository, const std::string& name)
+    /// The object of this very name: a repository also answers to names that sort as equal.
+    static const void* ObjectOf(const mdl_NamedObjects* repository, const std::string& name,
+                                const Names& names)
     {
-        return repository ? repository->ConstObject(name) : nullptr;
+        return names.count(name) != 0 ? repository->ConstObject(name) : nullptr;
     }
 
-    void CompareObject(const std::string& name)
+    void CompareObject(const std::string& name, const Names& currentSet)
     {
-        const void* old = ObjectOf(before, name);
-        const void* current = ObjectOf(after, name);
+        const void* old = before->ConstObject(name);
+        const void* current = ObjectOf(after, name, currentSet);
         if (old == current || !old)
             return;
         const cls_Description& description = ClassOf(*before, old);

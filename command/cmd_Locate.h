@@ -6,7 +6,7 @@
 #include "mdl_NamedObjects.h"
 
 /// An object of a repository.
-struct cmd_Located
+struct OVR_EXPORT cmd_Located
 {
     const cls_Description& description;
     /// Seen as its root class; owned by the repository.
@@ -14,19 +14,19 @@ struct cmd_Located
 };
 
 /// The words of the repositories that are plugged into the model, in stored order.
-std::vector<std::string> cmd_RepositoryWords(const ddr_Model& model);
+OVR_EXPORT std::vector<std::string> cmd_RepositoryWords(const ddr_Model& model);
 
 /// The repository of this word. Throws `cmd_Error`.
-const mdl_NamedObjects& cmd_ConstRepository(const ddr_Model& model, const std::string& word);
+OVR_EXPORT const mdl_NamedObjects& cmd_ConstRepository(const ddr_Model& model, const std::string& word);
 /// The same for changing.
-mdl_NamedObjects& cmd_Repository(ddr_Model& model, const std::string& word);
+OVR_EXPORT mdl_NamedObjects& cmd_Repository(ddr_Model& model, const std::string& word);
 
 /// The object to which the first two steps of the path lead. Throws `cmd_Error`.
-cmd_Located cmd_Locate(const ddr_Model& model, const cmd_Path& path);
+OVR_EXPORT cmd_Located cmd_Locate(const ddr_Model& model, const cmd_Path& path);
 
 /// The plain value to which the steps behind the second lead from `object`, the plain value of the object
 /// that they begin at. Throws `cmd_Error`.
-cls_Value& cmd_FindWithin(cls_Value& object, const cmd_Path& path);
+OVR_EXPORT cls_Value& cmd_FindWithin(cls_Value& object, const cmd_Path& path);
 
 /// What a script would write for that value.
-cmd_Value cmd_ScriptWithin(const cls_Value& object, const cmd_Path& path);
+OVR_EXPORT cmd_Value cmd_ScriptWithin(const cls_Value& object, const cmd_Path& path);

@@ -215,13 +215,13 @@ void cmd_Session::Delete(const cmd_Path& path)
 
 void cmd_Session::Rename(const cmd_Path& path, const std::string& name, bool replace)
 {
-    cmd_Locate(*container.ConstGetModel(), path);
+    const cmd_Located located = cmd_Locate(*container.ConstGetModel(), path);
     RequireObjectPath(path);
     RequireName(path.Text() + ".rename", name);
     const cmd_Path renamed = cmd_Path::OfObject(path.steps[0].text, name);
-    const bool isTaken =
-        cmd_ConstRepository(*container.ConstGetModel(), path.steps[0].text).ConstObject(name) != nullptr;
-    if (isTaken && !replace)
+    const void* other = cmd_ConstRepository(*container.ConstGetModel(), path.steps[0].text).ConstObject(name);
+    // Names that sort as equal are one name to the repository: the object itself may answer to its new one.
+    if (other && other != located.object && !replace)
         throw cmd_Error(path.Text() + ".rename: there is an object " + renamed.Text() +
                         " already; replace=True replaces it");
     cmd_Arguments arguments{{nameWord, name}};

@@ -192,9 +192,26 @@ TEST_F(Store, TakesATextThatLooksLikeANumberAsText)
     EXPECT_EQ("\"12\"\n", RunProgram({"get", store, "amplitudes['s']", "amplitude", "--json"}).out);
 }
 
-TEST_F(Store, WarnsOfARuleThatAChangeBreaks)
+TEST_F(Store, RefusesAChangeThatBreaksARule)
 {
-    const Answer answer = RunProgram({"set", store, "amplitudes['ramp']", "smooth=0.75", "--json"});
+    const std::string before = ContentOf(store);
+    const Answer answer = RunProgram({"set", store, "amplitudes['ramp']", "timeSpan=TOTAL", "smooth=0.75"});
+    EXPECT_EQ(1, answer.exitCode);
+    EXPECT_EQ("", answer.out);
+    EXPECT_EQ(
+        "vdbattr: model.amplitudes['ramp']: Invalid smoothing parameter, expected a value between 0.0 and "
+        "0.5.\n",
+        answer.err);
+    const Answer made = RunProgram({"new", store, "amplitudes['r']", "TabularAmplitude"});
+    EXPECT_EQ(1, made.exitCode);
+    EXPECT_THAT(made.err, HasSubstr("model.amplitudes['r']: The Time-Amplitude table should have"));
+    EXPECT_EQ(before, ContentOf(store));
+}
+
+TEST_F(Store, WarnsOfARuleThatAnUncheckedChangeBreaks)
+{
+    const Answer answer =
+        RunProgram({"set", store, "amplitudes['ramp']", "smooth=0.75", "--json", "--unchecked"});
     EXPECT_EQ(0, answer.exitCode);
     EXPECT_THAT(answer.err, HasSubstr("warning: amplitudes['ramp']: kamC:2 Invalid smoothing parameter"));
     const auto report = nlohmann::json::parse(answer.out);
@@ -207,16 +224,20 @@ TEST_F(Store, StaysAsItIsWhenAChangeIsRefused)
 {
     const std::pair<std::vector<std::string>, const char*> cases[] = {
         {{"amplitudes['ramp']", "smooth=0.1", "data=[[0, 0], [1, \"x\"]]"},
-         "amplitudes['ramp'].data[1][1]: expected a number"},
+         "kamC_Tabular.data[1][1]: expected a number, found 'x'"},
         {{"amplitudes['ramp']", "smooth=much"},
-         "amplitudes['ramp'].smooth: expected a number, found \"much\""},
-        {{"amplitudes['ramp']", "timeSpan=SPAN"}, "amplitudes['ramp'].timeSpan: expected one of STEP, TOTAL"},
+         "kamC_Tabular.smooth: expected a number or SOLVER_DEFAULT, found much"},
+        {{"amplitudes['ramp']", "timeSpan=SPAN"},
+         "kamC_Tabular.timeSpan: found SPAN, expected one of STEP, TOTAL"},
         {{"amplitudes['ramp']", "data=[[0"}, "data:1:"},
-        {{"amplitudes['ramp']", "smoth=1"}, "has no attribute smoth, expected one of: timeSpan, smooth"},
-        {{"amplitudes['lamp']", "smooth=1"}, "amplitudes['lamp']: there is no such object"},
+        {{"amplitudes['ramp']", "smoth=1"},
+         "kamC_Tabular has no word smoth, given 1: expected one of timeSpan, smooth"},
+        {{"amplitudes['lamp']", "smooth=1"},
+         "model.amplitudes['lamp']: there is no such object; did you mean 'ramp'?"},
         {{"amplitude['ramp']", "smooth=1"},
-         "amplitude: a model has no such repository, expected one of: amplitudes"},
+         "model.amplitude: a model has no such repository, expected amplitudes"},
         {{"amplitudes['ramp'].data", "smooth=1"}, "expected an object"},
+        {{"amplitudes['ramp", "smooth=1"}, "column 17: expected the closing '"},
         {{"amplitudes['ramp']", "smooth"}, "expected WORD=VALUE"},
     };
     const std::string before = ContentOf(store);

@@ -367,6 +367,16 @@ TEST_F(Session, AChangeKeepsTheIdentityOfItsObject)
     EXPECT_EQ(uid, Amplitudes().ConstGet("slope")->Uid());
 }
 
+TEST_F(Session, NamesThatDifferInLeadingZerosAreTwo)
+{
+    Run("model.DecayAmplitude(name='load 1')");
+    Run("model.amplitudes['load 1'].rename(name='load 01')");
+    EXPECT_EQ("('load 01',)", Run("model.amplitudes"));
+    Run("model.DecayAmplitude(name='load 1', initial=1.0)");
+    EXPECT_EQ("1.0", Run("model.amplitudes['load 1'].initial"));
+    EXPECT_EQ("0.0", Run("model.amplitudes['load 01'].initial"));
+}
+
 TEST_F(Session, SharesTheModelThatItBeginsWith)
 {
     Run(makeRamp);
