@@ -182,7 +182,7 @@ private:
             {
                 Handle* rest = std::exchange(node->right, nullptr);
                 std::destroy_at(top);
-                mem_Free(top);
+                mem_FreeSized(top, sizeof *top);
                 top = IsLast(rest) ? rest : nullptr;
             }
             else if (IsLast(lower))

@@ -37,7 +37,7 @@ public:
     static void Delete(T* value) noexcept
     {
         std::destroy_at(value);
-        mem_Free(value);
+        mem_FreeSized(value, sizeof(T));
     }
 };
 
@@ -110,7 +110,7 @@ protected:
             P::Delete(std::exchange(referent, nullptr));
     }
 
-    void FreeCount() noexcept { mem_Free(std::exchange(count, nullptr)); }
+    void FreeCount() noexcept { mem_FreeSized(std::exchange(count, nullptr), sizeof(int)); }
 
     int* count;
     T* referent;
@@ -276,5 +276,5 @@ void cow_DeleteHolder(cow_ErasedCOW* erased)
     auto* holder = reinterpret_cast<cow_CountedHld<T>*>(erased);
     if (holder->Release())
         holder->Delete();
-    mem_Free(holder);
+    mem_FreeSized(holder, sizeof *holder);
 }

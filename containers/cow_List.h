@@ -548,10 +548,13 @@ private:
         return mem_Malloc(sizeof(T) << blockShift);
     }
 
-    static void FreeBlock(ListBlock* block) noexcept
+    void FreeBlock(ListBlock* block) const noexcept
     {
-        mem_Free(block->data);
-        mem_Free(block);
+        if (blockShift == newBlockShift) [[likely]]
+            mem_FreeSized(block->data, sizeof(T) << newBlockShift);
+        else
+            mem_Free(block->data);
+        mem_FreeSized(block, sizeof *block);
     }
 
     /// Takes the list's share from the block in `slot`; the last one destroys the elements, from the last

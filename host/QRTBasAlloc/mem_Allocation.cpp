@@ -1,6 +1,7 @@
 #include "mem_Allocation.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -8,7 +9,7 @@
 
 namespace mem_detail
 {
-SlabState slab = {};
+constinit SlabState slab = {.base = std::uintptr_t{1} << 63, .bytes = 0, .pages = nullptr, .supplies = {}};
 }
 
 namespace
@@ -16,19 +17,9 @@ namespace
 using namespace mem_detail;
 
 constexpr std::uintptr_t commitBytes = std::uintptr_t{1} << 20;
+static_assert(slabClassBytes >> slabUnitShift == std::uintptr_t{1} << 32);
 
 std::size_t heapBlocks = 0;
-
-constexpr std::uintptr_t ClassStart(unsigned slabClass)
-{
-    return slabClass * slabClassBytes;
-}
-
-/// Distance of a class's first block from the start of its part: link 0 means none, so place 0 is never used.
-constexpr std::uintptr_t FirstBlock(unsigned slabClass)
-{
-    return std::max<std::uintptr_t>(SlabSize(slabClass), 16);
-}
 
 bool IsSlabBlock(const void* block)
 {
@@ -39,33 +30,65 @@ bool Reserve()
 {
     if (slab.bytes != 0)
         return true;
-    constexpr std::uintptr_t bytes = slabClassCount * slabClassBytes;
-    void* range = mmap(nullptr, bytes, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    constexpr std::uintptr_t blockBytes = slabClassCount * slabClassBytes;
+    constexpr std::uintptr_t pageBytes = slabClassCount * slabClassPages * sizeof(SlabPage);
+    void* range =
+        mmap(nullptr, blockBytes + pageBytes, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     if (range == MAP_FAILED)
         return false;
     slab.base = reinterpret_cast<std::uintptr_t>(range);
-    slab.bytes = bytes;
+    slab.bytes = blockBytes;
+    slab.pages = reinterpret_cast<SlabPage*>(slab.base + blockBytes);
     return true;
 }
 
-/// Makes the next part of the class's addresses usable; false when there is none or the system refuses.
-bool Commit(unsigned slabClass)
+/// Makes the part that grows from `start` usable up to `end` bytes, of which `used` are; false when the
+/// system refuses.
+bool Commit(std::uintptr_t start, std::uintptr_t used, std::uintptr_t end)
+{
+    const auto committed = [](std::uintptr_t bytes)
+    { return (bytes + commitBytes - 1) / commitBytes * commitBytes; };
+    const std::uintptr_t first = committed(used);
+    const std::uintptr_t bytes = committed(end) - first;
+    return bytes == 0 || mprotect(reinterpret_cast<void*>(start + first), bytes, PROT_READ | PROT_WRITE) == 0;
+}
+
+/// The first page of each class has another index, for the same reason as slabClassPages has more than
+/// needed.
+constexpr std::size_t LeastPage(unsigned slabClass)
+{
+    constexpr std::size_t cacheLine = 64;
+    return slabClass * (cacheLine / sizeof(SlabPage));
+}
+
+SlabPage* FirstPage(unsigned slabClass)
+{
+    return slab.pages + slabClass * slabClassPages;
+}
+
+std::uintptr_t PageStart(unsigned slabClass, std::size_t page)
+{
+    return slab.base + slabClass * slabClassBytes + page * slabPageBlocks * SlabSize(slabClass);
+}
+
+/// A page of the class that was never used, all its blocks free; null when there is no room for one.
+SlabPage* NewPage(unsigned slabClass)
 {
     if (!Reserve())
-        return false;
-    const std::uintptr_t start = slab.base + ClassStart(slabClass);
-    const std::uintptr_t size = SlabSize(slabClass);
-    const bool first = slab.next[slabClass] == 0;
-    const std::uintptr_t used = first ? 0 : slab.usable[slabClass] - start;
-    const std::uintptr_t committed = (used + commitBytes - 1) / commitBytes * commitBytes;
-    if (committed == slabClassBytes)
-        return false;
-    if (mprotect(reinterpret_cast<void*>(start + committed), commitBytes, PROT_READ | PROT_WRITE) != 0)
-        return false;
-    if (first)
-        slab.next[slabClass] = start + FirstBlock(slabClass);
-    slab.usable[slabClass] = start + (committed + commitBytes) / size * size;
-    return true;
+        return nullptr;
+    SlabSupply& supply = slab.supplies[slabClass];
+    const std::uintptr_t pageBytes = slabPageBlocks * SlabSize(slabClass);
+    const std::size_t page = std::max(supply.pages, LeastPage(slabClass));
+    const std::uintptr_t used = supply.pages * pageBytes;
+    if ((page + 1) * pageBytes > slabClassBytes ||
+        !Commit(PageStart(slabClass, 0), used, (page + 1) * pageBytes))
+        return nullptr;
+    SlabPage* first = FirstPage(slabClass);
+    if (!Commit(reinterpret_cast<std::uintptr_t>(first), supply.pages * sizeof(SlabPage),
+                (page + 1) * sizeof(SlabPage)))
+        return nullptr;
+    supply.pages = page + 1;
+    return ::new (static_cast<void*>(first + page)) SlabPage{~std::uint64_t{0}, nullptr};
 }
 
 void* HeapResize(void* block, std::size_t size)
@@ -76,20 +99,56 @@ void* HeapResize(void* block, std::size_t size)
     return resized;
 }
 
-std::size_t FreeBlocks(unsigned slabClass)
+/// The class's next page with free blocks, or null; it is the current one from then on.
+SlabPage* TurnPage(unsigned slabClass)
 {
+    SlabSupply& supply = slab.supplies[slabClass];
+    if (supply.current != nullptr && supply.current->free != 0)
+        return supply.current;
+    SlabPage* page = supply.others;
+    if (page != nullptr)
+        supply.others = page->next;
+    else
+        page = NewPage(slabClass);
+    if (page != nullptr)
+        supply.current = page;
+    return page;
+}
+
+std::size_t BlocksInUse(unsigned slabClass)
+{
+    const SlabSupply& supply = slab.supplies[slabClass];
+    const SlabPage* first = FirstPage(slabClass);
     std::size_t blocks = 0;
-    const std::uintptr_t start = slab.base + ClassStart(slabClass);
-    for (std::uint32_t link = slab.freeLink[slabClass]; link != 0;
-         link = *reinterpret_cast<const std::uint32_t*>(start + (std::uintptr_t{link} << linkShift)))
-        ++blocks;
-    return blocks;
+    for (std::size_t page = LeastPage(slabClass); page < supply.pages; ++page)
+        blocks += static_cast<std::size_t>(std::popcount(~first[page].free));
+    return blocks - (supply.end - supply.next) / SlabSize(slabClass);
 }
 } // namespace
 
-void* mem_detail::SlabGrow(unsigned slabClass)
+void* mem_detail::SlabNextRun(unsigned slabClass)
 {
-    return Commit(slabClass) ? SlabNew(slabClass) : HeapNew(SlabSize(slabClass));
+    SlabPage* page = TurnPage(slabClass);
+    if (page == nullptr)
+        return HeapNew(SlabSize(slabClass));
+    const int first = std::countr_zero(page->free);
+    const int blocks = std::countr_one(page->free >> first);
+    page->free &= ~(~std::uint64_t{0} >> (slabPageBlocks - blocks) << first);
+
+    SlabSupply& supply = slab.supplies[slabClass];
+    const auto size = static_cast<std::uintptr_t>(SlabSize(slabClass));
+    supply.next = PageStart(slabClass, static_cast<std::size_t>(page - FirstPage(slabClass))) + first * size;
+    supply.end = supply.next + blocks * size;
+    return SlabNew(slabClass);
+}
+
+void mem_detail::SlabReopen(unsigned slabClass, SlabPage* page) noexcept
+{
+    SlabSupply& supply = slab.supplies[slabClass];
+    if (page == supply.current)
+        return;
+    page->next = supply.others;
+    supply.others = page;
 }
 
 void* mem_detail::HeapNew(std::size_t size)
@@ -135,11 +194,6 @@ std::size_t mem_BlocksInUse()
 {
     std::size_t blocks = heapBlocks;
     for (unsigned slabClass = 0; slabClass < slabClassCount; ++slabClass)
-    {
-        if (slab.next[slabClass] == 0)
-            continue;
-        const std::uintptr_t first = slab.base + ClassStart(slabClass) + FirstBlock(slabClass);
-        blocks += (slab.next[slabClass] - first) / SlabSize(slabClass) - FreeBlocks(slabClass);
-    }
+        blocks += BlocksInUse(slabClass);
     return blocks;
 }

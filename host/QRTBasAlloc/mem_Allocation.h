@@ -2,13 +2,15 @@
 
 #include "ovr_Export.h"
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
 // Memory of the whole system. Blocks of at most mem_detail::slabLimit bytes are cut from a slab: one reserved
 // range of addresses with a fixed part for each block size, so that a block's size follows from its address
-// and a free block costs no header. Everything larger is the C library's. One thread at a time may allocate
-// and free.
+// and no block has a header. Blocks taken one after the other lie side by side wherever there is room,
+// however mixed the order was in which others were given back. Everything larger is the C library's. One
+// thread at a time may allocate and free.
 
 namespace mem_detail
 {
@@ -40,24 +42,65 @@ constexpr std::size_t SlabSize(unsigned slabClass)
     return slabClass < 2 ? std::size_t{4} << slabClass : std::size_t{16} * (slabClass - 1);
 }
 
-/// Each size class owns 2^slabShift bytes of addresses; a free-list link counts in units of 4 bytes.
+/// Each size class owns 2^slabShift bytes of addresses, in units of 4 bytes as many as 32 bits count.
 inline constexpr unsigned slabShift = 34;
 inline constexpr std::uintptr_t slabClassBytes = std::uintptr_t{1} << slabShift;
-inline constexpr unsigned linkShift = 2;
+inline constexpr unsigned slabUnitShift = 2;
+
+/// 64 blocks of one class side by side. What is known of them lies apart, so that giving a block back or
+/// taking it does not touch the block.
+struct SlabPage
+{
+    std::uint64_t free; ///< bit i tells that block i is free
+    SlabPage* next;     ///< next in the class's stack of pages with free blocks
+};
+
+inline constexpr unsigned slabPageBlocks = 64;
+/// Places for the pages of one class: enough for the smallest blocks, and a few more, so that the places of
+/// two classes do not have the same low bits in their addresses, of which caches would keep only one.
+inline constexpr std::uintptr_t slabClassPages = slabClassBytes / SlabSize(0) / slabPageBlocks + 768;
+
+struct SlabSupply
+{
+    std::uintptr_t next; ///< first block of the run that blocks are taken from, one after the other
+    std::uintptr_t end;  ///< end of that run, whose blocks no page has as free
+    SlabPage* current;   ///< page of that run; null before the class has one
+    SlabPage* others;    ///< stack of all other pages that have free blocks
+    std::size_t pages;   ///< pages made so far
+};
 
 struct SlabState
 {
-    std::uintptr_t base;                    ///< first address of the reserved range, 0 before it is reserved
-    std::uintptr_t bytes;                   ///< length of the reserved range, 0 before it is reserved
-    std::uint32_t freeLink[slabClassCount]; ///< newest free block of the class, 0 for none
-    std::uintptr_t next[slabClassCount];    ///< first address of the class never handed out
-    std::uintptr_t usable[slabClassCount];  ///< end of the whole blocks in the committed part of the class
+    std::uintptr_t base;  ///< first address of the blocks; far from all others before they are reserved
+    std::uintptr_t bytes; ///< length of their range, 0 before it is reserved
+    SlabPage* pages;      ///< slabClassPages for each class
+    SlabSupply supplies[slabClassCount];
 };
 
 extern OVR_EXPORT SlabState slab;
 
-/// Commits more of the class and takes a block from it; falls back to the C heap when the range is exhausted.
-OVR_EXPORT void* SlabGrow(unsigned slabClass);
+/// What to multiply a block's distance in units with to have its index in the upper 32 bits.
+struct SlabReciprocals
+{
+    constexpr SlabReciprocals()
+    {
+        for (unsigned slabClass = 0; slabClass < slabClassCount; ++slabClass)
+        {
+            const std::uint64_t units = SlabSize(slabClass) >> slabUnitShift;
+            of[slabClass] = ((std::uint64_t{1} << 32) + units - 1) / units;
+        }
+    }
+
+    std::uint64_t of[slabClassCount] = {};
+};
+inline constexpr SlabReciprocals slabReciprocals;
+
+/// Goes to the next run of free blocks and takes one from it; falls back to the C heap when there is none and
+/// no room for one.
+OVR_EXPORT void* SlabNextRun(unsigned slabClass);
+
+/// Notes that a page without free blocks has one again.
+OVR_EXPORT void SlabReopen(unsigned slabClass, SlabPage* page) noexcept;
 
 /// A block from the C heap; throws std::bad_alloc.
 OVR_EXPORT void* HeapNew(std::size_t size);
@@ -67,20 +110,32 @@ OVR_EXPORT void HeapFree(void* block) noexcept;
 
 inline void* SlabNew(unsigned slabClass)
 {
-    if (const std::uint32_t link = slab.freeLink[slabClass])
-    {
-        const std::uintptr_t start = slab.base + slabClass * slabClassBytes;
-        auto* block = reinterpret_cast<std::uint32_t*>(start + (std::uintptr_t{link} << linkShift));
-        slab.freeLink[slabClass] = *block;
-        // The next block's link is read when it is taken; by then it should be near.
-        __builtin_prefetch(reinterpret_cast<const void*>(start + (std::uintptr_t{*block} << linkShift)), 1);
-        return block;
-    }
-    const std::uintptr_t block = slab.next[slabClass];
-    if (block == slab.usable[slabClass]) [[unlikely]]
-        return SlabGrow(slabClass);
-    slab.next[slabClass] = block + SlabSize(slabClass);
+    SlabSupply& supply = slab.supplies[slabClass];
+    const std::uintptr_t block = supply.next;
+    if (block == supply.end) [[unlikely]]
+        return SlabNextRun(slabClass);
+    supply.next = block + SlabSize(slabClass);
     return reinterpret_cast<void*>(block);
+}
+
+/// Gives back the block at `distance` from the first of its class.
+inline void SlabFree(unsigned slabClass, std::uintptr_t distance) noexcept
+{
+    SlabSupply& supply = slab.supplies[slabClass];
+    const std::uintptr_t block = slab.base + slabClass * slabClassBytes + distance;
+    if (block + SlabSize(slabClass) == supply.next)
+    {
+        // The block taken last, which the caches still have.
+        supply.next = block;
+        return;
+    }
+    const std::uint64_t unit = static_cast<std::uint32_t>(distance >> slabUnitShift);
+    const std::uint64_t index = (unit * slabReciprocals.of[slabClass]) >> 32;
+    SlabPage* page = slab.pages + slabClass * slabClassPages + index / slabPageBlocks;
+    const std::uint64_t free = page->free;
+    page->free = free | std::uint64_t{1} << index % slabPageBlocks;
+    if (free == 0) [[unlikely]]
+        SlabReopen(slabClass, page);
 }
 } // namespace mem_detail
 
@@ -121,15 +176,24 @@ inline void mem_Free(void* block) noexcept
     using namespace mem_detail;
     const std::uintptr_t distance = reinterpret_cast<std::uintptr_t>(block) - slab.base;
     if (slabActive && distance < slab.bytes)
-    {
-        std::uint32_t& newest = slab.freeLink[distance >> slabShift];
-        *static_cast<std::uint32_t*>(block) = newest;
-        newest = static_cast<std::uint32_t>((distance & (slabClassBytes - 1)) >> linkShift);
-        return;
-    }
+        return SlabFree(static_cast<unsigned>(distance >> slabShift), distance & (slabClassBytes - 1));
     HeapFree(block);
 }
 
-/// Blocks handed out by any function of this header and not yet given back. Walks the free lists, so it is
-/// for tests and reports.
+/// As mem_Free, for a block that was made for `size` bytes: shorter where the compiler knows the size.
+inline void mem_FreeSized(void* block, std::size_t size) noexcept
+{
+    using namespace mem_detail;
+    if (!slabActive || size > slabLimit)
+        return HeapFree(block);
+    const unsigned slabClass = SlabClass(size);
+    const std::uintptr_t distance =
+        reinterpret_cast<std::uintptr_t>(block) - slab.base - slabClass * slabClassBytes;
+    if (distance < slabClassBytes) [[likely]]
+        return SlabFree(slabClass, distance);
+    HeapFree(block);
+}
+
+/// Blocks handed out by any function of this header and not yet given back. Walks all pages, so it is for
+/// tests and reports.
 OVR_EXPORT std::size_t mem_BlocksInUse();

@@ -11,6 +11,7 @@
 #include <cstring>
 #include <limits>
 #include <new>
+#include <random>
 #include <string>
 #include <sys/resource.h>
 #include <vector>
@@ -164,6 +165,51 @@ TEST(mem_Allocation, BlocksAreUsedAgain)
             mem_Free(again);
         }
     }
+}
+
+TEST(mem_Allocation, BlocksLieSideBySideInWhateverOrderOthersWereGivenBack)
+{
+    if constexpr (mem_detail::slabActive)
+    {
+        for (const std::size_t size : {4, 16, 48, 256})
+        {
+            std::vector<void*> blocks(10'000);
+            for (void*& block : blocks)
+                block = mem_OperatorNewThrow(size);
+            std::shuffle(blocks.begin(), blocks.end(), std::mt19937(7));
+            for (void* block : blocks)
+                mem_FreeSized(block, size);
+            for (void*& block : blocks)
+                block = mem_OperatorNewThrow(size);
+            std::size_t adjacent = 0;
+            for (std::size_t i = 1; i < blocks.size(); ++i)
+                adjacent += Address(blocks[i]) == Address(blocks[i - 1]) + size;
+            EXPECT_GT(adjacent, blocks.size() * 9 / 10) << size;
+            for (void* block : blocks)
+                mem_Free(block);
+        }
+    }
+}
+
+TEST(mem_Allocation, BlocksOfKnownSizeAreGivenBackToTheSameMemory)
+{
+    const std::size_t before = mem_BlocksInUse();
+    for (const std::size_t size : edgeSizes)
+    {
+        std::vector<void*> blocks;
+        for (int i = 0; i < 200; ++i)
+            blocks.push_back(mem_OperatorNewThrow(size));
+        for (std::size_t i = 0; i < blocks.size(); ++i)
+        {
+            if (i % 3 == 0)
+                mem_Free(blocks[i]);
+            else
+                mem_FreeSized(blocks[i], size);
+        }
+        EXPECT_EQ(mem_BlocksInUse(), before) << size;
+    }
+    mem_FreeSized(nullptr, 16);
+    EXPECT_EQ(mem_BlocksInUse(), before);
 }
 
 RC_GTEST_PROP(mem_Allocation, BlocksNeverOverlap, (const std::vector<std::pair<std::uint16_t, bool>>& steps))
