@@ -23,16 +23,16 @@ public:
     ~cow_BtreeIterator() { Clear(); }
 
     /// Goes to the lowest key. This and the other three return whether the iterator stands on an entry.
-    bool First() { return Start(&Node::Left); }
+    bool First() { return Start<&Node::Left>(); }
 
     /// Goes to the highest key.
-    bool Last() { return Start(&Node::Right); }
+    bool Last() { return Start<&Node::Right>(); }
 
     /// Goes to the next higher key; an exhausted iterator stays so.
-    bool Next() { return Step(&Node::Left, &Node::Right); }
+    bool Next() { return Step<&Node::Left, &Node::Right>(); }
 
     /// Goes to the next lower key; an exhausted iterator stays so.
-    bool Previous() { return Step(&Node::Right, &Node::Left); }
+    bool Previous() { return Step<&Node::Right, &Node::Left>(); }
 
     /// True when the iterator stands on no entry.
     bool IsExhausted() const { return top == nullptr; }
@@ -50,22 +50,24 @@ private:
         Cell* next;
     };
 
-    bool Start(Side ahead)
+    template <Side ahead>
+    bool Start()
     {
         Clear();
-        PushDown(map.Root(), ahead);
+        PushDown<ahead>(map.Root());
         return !IsExhausted();
     }
 
     /// One entry on, where `back` is the side of a node that was walked before the node itself, and `ahead`
     /// the other.
-    bool Step(Side back, Side ahead)
+    template <Side back, Side ahead>
+    bool Step()
     {
         if (IsExhausted())
             return false;
         if (const Handle* child = ((**top->handle).*ahead)())
         {
-            PushDown(child, back);
+            PushDown<back>(child);
             return true;
         }
         const Handle* done = nullptr;
@@ -77,7 +79,8 @@ private:
         return !IsExhausted();
     }
 
-    void PushDown(const Handle* handle, Side side)
+    template <Side side>
+    void PushDown(const Handle* handle)
     {
         for (; handle != nullptr; handle = ((**handle).*side)())
             top = ::new (mem_OperatorNewThrow(sizeof(Cell))) Cell{handle, top};
@@ -87,7 +90,7 @@ private:
     {
         Cell* cell = std::exchange(top, top->next);
         const Handle* handle = cell->handle;
-        mem_Free(cell);
+        mem_FreeSized(cell, sizeof *cell);
         return handle;
     }
 
