@@ -1,24 +1,9 @@
 #pragma once
 
+#include "mdl_1DArrayList.h"
+#include "mdl_MapOfCowsRepository.h"
 #include "mdl_MapString2ObjCow.h"
 #include "nex_canDynamicCastRef.h"
-
-namespace mdl_detail
-{
-
-/// How a repository has its wrapper stored.
-template <class R>
-struct WrapperOf;
-
-template <class T>
-struct WrapperOf<mdl_MapString2ObjCow<T>>
-{
-    static constexpr const char* name = mdl_ContainerOf<T>::wrapperName;
-    static constexpr unsigned id = mdl_ContainerOf<T>::wrapperId;
-    static constexpr const char* word = mdl_ContainerOf<T>::word;
-};
-
-} // namespace mdl_detail
 
 namespace cls_kinds
 {
@@ -52,7 +37,7 @@ public:
     {
         const cls_ReadVisitor nested(visitor, field);
         nex_canDynamicCastRef(R::TypeId(), nested.Memento().ClassId(), __FILE__, __LINE__);
-        static_cast<R*>(member)->Restore(R(nested));
+        *static_cast<R*>(member) = R(nested);
     }
 
     cls_Value Export(const void* member) const override
@@ -70,17 +55,18 @@ public:
 
 } // namespace cls_kinds
 
-template <class T>
-struct cls_KindOf<mdl_MapString2ObjCow<T>>
+template <class R>
+requires std::is_base_of_v<mdl_Repository, R>
+struct cls_KindOf<R>
 {
-    static constexpr cls_kinds::ContainerKind<mdl_MapString2ObjCow<T>> kind{};
+    static constexpr cls_kinds::ContainerKind<R> kind{};
 };
 
 /// Plugs a repository into the model: holds a copy of it.
 template <class R>
 class mdl_ExtensionWrapper : public mdl_Extension
 {
-    using Stored = mdl_detail::WrapperOf<R>;
+    using Container = mdl_ContainerOf<R>;
 
 public:
     using cls_RootClass = mdl_Extension;
@@ -90,7 +76,7 @@ public:
     static constexpr int cls_Version = 401;
     static constexpr int cls_EntryCount = 1;
 
-    static constexpr unsigned TypeId() { return Stored::id; }
+    static constexpr unsigned TypeId() { return Container::wrapperId; }
 
     static constexpr cls_Entry cls_EntryAt(std::integral_constant<int, 0>)
     {
@@ -98,7 +84,7 @@ public:
             cls_Entry::Sort::Attribute,
             -1,
             "extension",
-            Stored::word,
+            Container::word,
             &cls_KindOf<R>::kind,
             nullptr,
             [](void* object) -> void*
@@ -107,7 +93,8 @@ public:
 
     static const cls_Description& Description()
     {
-        static constexpr cls_ClassInfo info = cls_detail::MakeInfo<mdl_ExtensionWrapper>(Stored::name);
+        static constexpr cls_ClassInfo info =
+            cls_detail::MakeInfo<mdl_ExtensionWrapper>(Container::wrapperName);
         static const cls_Description description(info);
         return description;
     }
