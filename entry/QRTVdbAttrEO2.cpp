@@ -25,6 +25,7 @@
 #include "QRTVdbKtbC.h"
 #include "cls_Description.h"
 #include "cls_Module.h"
+#include "ddr_ShortcutRegistry.h"
 
 #include <cstdlib>
 #include <iterator>
@@ -95,6 +96,7 @@ void QRTVdbAttrEO2_finalize(int& tally)
     tally -= --innerCount == 0 ? 2 : 1;
     for (auto component = std::rbegin(components); component != std::rend(components); ++component)
         component->finalize(tally);
+    omi_Singleton<ddr_ShortcutRegistry>::Finalize();
     omi_Singleton<cls_DescriptionRegistry>::Finalize();
     omi_Singleton<cls_Catalogue>::Finalize();
 }

@@ -3,6 +3,7 @@
 #include "QRTShpCore.h"
 #include "cls_MetadataRegistrar.h"
 #include "ddr_Model.h"
+#include "ddr_ModelShortcut.h"
 #include "mdl_PropertyTable.h"
 #include "mdl_Repository.h"
 #include "rgnC_RegionPair.h"
@@ -16,13 +17,20 @@ constexpr unsigned short modelModuleNumber = 10;
 
 /// The rows without a name are free.
 constexpr typ_Entry modelTypes[] = {
-    {0, 1, nullptr},     {7, 0xA000D, "mdl_Repository"},
-    {7, 1, "ddr_Model"}, {7, 1, "mdl_PropertyTable"},
-    {0, 1, nullptr},     {0, 1, nullptr},
-    {0, 1, nullptr},     {0, 1, nullptr},
-    {0, 1, nullptr},     {0, 1, nullptr},
-    {0, 1, nullptr},     {0, 1, nullptr},
-    {0, 1, nullptr},     {7, 1, "mdl_Extension"},
+    {0, 1, nullptr},
+    {7, 0xA000D, "mdl_Repository"},
+    {7, 1, "ddr_Model"},
+    {7, 1, "mdl_PropertyTable"},
+    {7, 1, "ddr_ModelShortcut"},
+    {0, 1, nullptr},
+    {0, 1, nullptr},
+    {0, 1, nullptr},
+    {0, 1, nullptr},
+    {0, 1, nullptr},
+    {0, 1, nullptr},
+    {0, 1, nullptr},
+    {0, 1, nullptr},
+    {7, 1, "mdl_Extension"},
 };
 
 constexpr unsigned short regionModuleNumber = 42;
@@ -52,6 +60,7 @@ void QRTVdbCoreGeom_initialize(int& tally)
     registrar.initClassMetadata(rgnC_RegionPair::InitializeMetadata);
     registrar.initClassMetadata(mdl_PropertyTable::InitializeMetadata);
     registrar.initClassMetadata(ddr_Model::InitializeMetadata);
+    registrar.initClassMetadata(ddr_Shortcut<ddr_Model>::InitializeMetadata);
 }
 
 void QRTVdbCoreGeom_finalize(int& tally)

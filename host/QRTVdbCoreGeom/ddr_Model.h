@@ -116,7 +116,7 @@ public:
     mdl_Repository* Get(const cow_String& word);
     const mdl_Repository* ConstGet(const cow_String& word) const;
 
-    static unsigned TypeId() { return 0xA0002; }
+    static constexpr unsigned TypeId() { return 0xA0002; }
     static void InitializeMetadata(cls_ClassRegistrar& registrar);
     /// Gives back one share of a counted holder of a model.
     static void CowDtor(cls_ErasedHandle* holder);

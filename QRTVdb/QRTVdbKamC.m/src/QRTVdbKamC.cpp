@@ -11,6 +11,7 @@
 #include "kamC_Modulated.h"
 #include "kamC_Periodic.h"
 #include "kamC_PsdDefinition.h"
+#include "kamC_Shortcuts.h"
 #include "kamC_SmoothStep.h"
 #include "kamC_SolutionDependent.h"
 #include "kamC_Spectrum.h"
@@ -51,6 +52,12 @@ void QRTVdbKamC_initialize(int& tally)
                         kamC_Modulated, kamC_Periodic, kamC_SolutionDependent, kamC_Tabular,
                         kamC_PsdDefinition, kamC_Spectrum, kamC_SmoothStep, kamC_AmplitudeContainer>();
     cls_RegisterClasses<kamC_ACWrapper>(wrapperMask);
+    cls_RegisterClasses<kamC_AmplitudeShortcut, kamC_AmplitudeIMPLSC,
+                        kamC_AmplitudeInAmplitudeContainerShortcut, kamC_AmplitudeContainerShortcut,
+                        kamC_AmplitudeContainerIMPLSC, kamC_BaselineCorrectionShortcut,
+                        kamC_BaselineCorrectionIMPLSC, kamC_BaselineCorrectionInEquallySpacedShortcut,
+                        kamC_BaselineCorrectionInTabularShortcut, kamC_AmplitudeContainerInModelShortcut,
+                        kamC_BaselineCorrectionInAmplitudeShortcut>();
     cls_RegisterClasses<kamC_ActuatorAmplitude, kamC_UserAmplitude, kamC_SpectrumAmplitude,
                         kamC_CorrelationComponent>();
     FillCatalogue();
