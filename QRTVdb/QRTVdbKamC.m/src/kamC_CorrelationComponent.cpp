@@ -26,3 +26,13 @@ void kamC_CorrelationComponent::AssertValid() const
         kamC_Assert(dataList.Count() < 4, 29);
     }
 }
+
+void omu_Get(omu_PrimTuple& tuple, kamC_CorrelationComponent& component)
+{
+    omu_GetFields(tuple, component.approach, component.psd, component.dataList);
+}
+
+omu_Primitive* omu_ReturnPrim(const kamC_CorrelationComponent& component)
+{
+    return omu_ReturnFields(component.approach, component.psd, component.dataList);
+}

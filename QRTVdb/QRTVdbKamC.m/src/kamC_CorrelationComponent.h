@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cls_Class.h"
+#include "omu_Composite.h"
 
 /// One part of the correlation of a random load: how it is correlated, by which power spectral density.
 class OVR_EXPORT kamC_CorrelationComponent : public mem_AllocationOperators
@@ -17,3 +18,8 @@ class OVR_EXPORT kamC_CorrelationComponent : public mem_AllocationOperators
     void AssertValid() const;
     CLS_END
 };
+
+/// Takes a component from the next value of the tuple: approach, name, data.
+OVR_EXPORT void omu_Get(omu_PrimTuple& tuple, kamC_CorrelationComponent& component);
+/// The component as a tuple, owned by the caller; the approach is its plain number.
+OVR_EXPORT omu_Primitive* omu_ReturnPrim(const kamC_CorrelationComponent& component);
