@@ -1,4 +1,5 @@
 #include "QRTVdbAttrEO2.h"
+#include "QRTVdbKamC.h"
 
 #include "cls_MetadataRegistrar.h"
 #include "dbc_OldClassRegistrar.h"
@@ -95,6 +96,29 @@ TEST(LibraryEntry, SharesItsCountBetweenBothForms)
     QRTVdbAttrEO2_finalizeC();
     EXPECT_EQ(0, QRTVdbAttrEO2_counters().privateModuleCount);
     EXPECT_EQ(0, QRTVdbAttrEO2_counters().outerCount);
+}
+
+TEST(ModuleEntry, CountsByItselfAndKeepsItsRegistrationsThroughTheLibrarys)
+{
+    int tally = 0;
+    QRTVdbKamC_initialize(tally);
+    EXPECT_EQ(1, tally);
+    EXPECT_TRUE(IsUp());
+    QRTVdbKamC_initialize(tally);
+    EXPECT_EQ(1, tally) << "only the first initialization moves the tally";
+    QRTVdbKamC_finalize(tally);
+    EXPECT_EQ(1, tally);
+    EXPECT_TRUE(IsUp());
+
+    QRTVdbAttrEO2_initialize(tally);
+    EXPECT_EQ(wholeTally, tally) << "the module was counted already";
+    EXPECT_TRUE(IsUp());
+    QRTVdbAttrEO2_finalize(tally);
+    EXPECT_EQ(1, tally) << "the module is still up";
+    EXPECT_NE(nullptr, ddr_Model().ConstGetAmplitudes());
+    QRTVdbKamC_finalize(tally);
+    EXPECT_EQ(0, tally);
+    EXPECT_EQ(nullptr, ddr_Model().ConstGetAmplitudes());
 }
 
 /// A function of the library by the name under which the file exports it.
