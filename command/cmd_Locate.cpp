@@ -75,9 +75,10 @@ private:
 
     void GoToWord(const std::string& word)
     {
-        owner = cmd_ClassOfValue(*value);
-        if (!owner)
+        const cls_Description* inner = cmd_ClassOfValue(*value);
+        if (!inner)
             Raise("an object with a word " + word);
+        owner = inner;
         attribute = owner->FindByWord(word);
         if (!attribute)
         {

@@ -5,12 +5,36 @@
 #include <string>
 #include <typeindex>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 struct omi_SingletonRegistry::Content
 {
     std::unordered_map<std::string, void*> byName;
     std::unordered_map<std::type_index, void*> byType;
 };
+
+namespace
+{
+/// What one thread has of its own.
+struct ThreadContent
+{
+    ThreadContent() = default;
+    ThreadContent(const ThreadContent&) = delete;
+    ThreadContent& operator=(const ThreadContent&) = delete;
+
+    ~ThreadContent()
+    {
+        for (auto last = deletions.rbegin(); last != deletions.rend(); ++last)
+            last->second(last->first);
+    }
+
+    std::unordered_map<std::type_index, void*> places;
+    std::vector<std::pair<void*, void (*)(void*)>> deletions;
+};
+
+thread_local ThreadContent threadContent;
+} // namespace
 
 omi_SingletonRegistry::omi_SingletonRegistry() : content(new Content) {}
 
@@ -49,8 +73,12 @@ void** omi_SingletonRegistry::Place(const std::type_info& type)
 
 void** omi_SingletonRegistry::ThreadPlace(const std::type_info& type)
 {
-    static thread_local auto* const places = new std::unordered_map<std::type_index, void*>;
-    return &(*places)[type];
+    return &threadContent.places[type];
+}
+
+void omi_SingletonRegistry::DeleteAtThreadEnd(void* instance, void (*deletion)(void* instance))
+{
+    threadContent.deletions.emplace_back(instance, deletion);
 }
 
 omi_SingletonName::omi_SingletonName(const std::type_info& type)

@@ -31,6 +31,9 @@ public:
     /// The same, with a place of its own for each thread.
     static void** ThreadPlace(const std::type_info& type);
 
+    /// Has `deletion` called with `instance` when the calling thread ends; what was made last goes first.
+    static void DeleteAtThreadEnd(void* instance, void (*deletion)(void* instance));
+
 private:
     omi_SingletonRegistry();
     ~omi_SingletonRegistry();
