@@ -5,6 +5,8 @@
 #include "kamC_AmplitudeContainer.h"
 #include "kamC_Tabular.h"
 #include "mdl_NamedObjects.h"
+#include "omu_ChangeHistory.h"
+#include "thr_ThreadSingleton.h"
 
 #include <gtest/gtest.h>
 
@@ -375,6 +377,27 @@ TEST_F(Session, NamesThatDifferInLeadingZerosAreTwo)
     Run("model.DecayAmplitude(name='load 1', initial=1.0)");
     EXPECT_EQ("1.0", Run("model.amplitudes['load 1'].initial"));
     EXPECT_EQ("0.0", Run("model.amplitudes['load 01'].initial"));
+}
+
+TEST_F(Session, EachCommandIsInTheChangeHistoryOnce)
+{
+    omu_ChangeHistory& history = *thr_ThreadSingleton<omu_ChangeHistory>::Instance();
+    history.Clear();
+    Run(makeRamp);
+    Run("model.amplitudes['ramp'].setValues(smooth=0.25, timeSpan=TOTAL)");
+    BrokenRule("model.amplitudes['ramp'].smooth = 0.6");
+    Refusal("model.amplitudes['ramp'].smoth = 0.1");
+    Run("model.amplitudes['ramp'].smooth");
+    Run("model.amplitudes['ramp'].rename(name='slope')");
+    Run("model.undo()");
+    Run("model.redo()");
+    Run("del model.amplitudes['slope']");
+    EXPECT_STREQ("(\"Insert\", \"ramp\", -99)\n"
+                 "(\"Modify\", \"ramp\")\n"
+                 "(\"Remove\", \"ramp\")\n"
+                 "(\"Insert\", \"slope\", -99)\n"
+                 "(\"Remove\", \"slope\")\n",
+                 history.AsText().CString());
 }
 
 TEST_F(Session, SharesTheModelThatItBeginsWith)
