@@ -2,7 +2,9 @@
 
 #include "QRTRfmInterface.h"
 #include "cls_MetadataRegistrar.h"
+#include "dbc_DatabaseConverterHolder.h"
 #include "dbc_OldClassRegistrar.h"
+#include "dbc_Utils.h"
 #include "typ_ArchCompTable.h"
 
 #include <iterator>
@@ -37,6 +39,8 @@ void QRTRomCore_finalize(int& tally)
         return;
     --tally;
     typ_ArchCompTable::RemoveEntry(collectionModuleNumber);
+    omi_Singleton<dbc_DatabaseConverterHolder>::Finalize();
+    omi_Singleton<dbc_Utils>::Finalize();
     omi_Singleton<dbc_OldClassRegistrar>::Finalize();
     omi_Singleton<cls_MetadataRegistrar>::Finalize();
     QRTRfmInterface_finalize(tally);

@@ -1,0 +1,5 @@
+#include "dbc_DatabaseConverterHolder.h"
+
+dbc_DatabaseConverterHolder::dbc_DatabaseConverterHolder() = default;
+
+dbc_DatabaseConverterHolder::~dbc_DatabaseConverterHolder() = default;
