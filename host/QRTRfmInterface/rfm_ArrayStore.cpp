@@ -23,7 +23,10 @@ rfm_ArrayStore::rfm_ArrayStore(rfm_Database& database) : database(database) {}
 std::int64_t rfm_ArrayStore::Insert(rfm_Type type, const void* values, std::int64_t length)
 {
     if (!inserter)
+    {
         inserter = std::make_unique<rfm_Inserter>(database, rfm_TableForm::Arrays());
+        lastHandle = LastHandle();
+    }
     const std::int64_t numberSize = rfm_SizeOf(type);
     if (length > INT_MAX / numberSize)
         database.Raise("The array of " + std::to_string(length) + " numbers is too big for a store.",
@@ -39,6 +42,15 @@ std::int64_t rfm_ArrayStore::Insert(rfm_Type type, const void* values, std::int6
                               rfm_Cell::Blob(values, size)};
     inserter->Insert(++lastHandle, cells);
     return lastHandle;
+}
+
+/// Arrays may be there that were not inserted one by one.
+std::int64_t rfm_ArrayStore::LastHandle() const
+{
+    rfm_Statement statement(database, "SELECT MAX(\"Handle\") FROM \"rfm_Array\"",
+                            rfm_TableForm::Arrays().name);
+    const rfm_Cell last = statement.Step() ? statement.Column(0) : rfm_Cell::Null();
+    return last.Is(rfm_CellKind::Integer) ? last.integer : 0;
 }
 
 void rfm_ArrayStore::Flush()

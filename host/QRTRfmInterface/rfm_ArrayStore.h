@@ -26,6 +26,7 @@ public:
     void Read(void* values) const;
 
 private:
+    std::int64_t LastHandle() const;
     [[noreturn]] void RaiseDamaged(const char* field, const char* message) const;
 
     rfm_Database& database;

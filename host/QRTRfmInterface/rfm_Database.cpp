@@ -1,6 +1,7 @@
 #include "rfm_Database.h"
 
 #include "rfm_NewFile.h"
+#include "rfm_RowCopy.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -66,6 +67,25 @@ std::uint32_t NumberAt(const unsigned char* header, int position)
 std::string PlainPath(const std::string& path)
 {
     return path.starts_with('/') ? path : "./" + path;
+}
+
+/// A path that SQLite takes for a file to be read only.
+std::string ReadOnlyUri(const std::string& path)
+{
+    constexpr std::string_view plain = "/._-";
+    constexpr char digits[] = "0123456789ABCDEF";
+    std::string uri = "file:";
+    for (const char each : PlainPath(path))
+    {
+        const auto byte = static_cast<unsigned char>(each);
+        const bool isPlain = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') ||
+                             (byte >= '0' && byte <= '9') || plain.find(each) != std::string_view::npos;
+        if (isPlain)
+            uri += each;
+        else
+            uri.append("%").append(1, digits[byte >> 4]).append(1, digits[byte & 15]);
+    }
+    return uri + "?mode=ro";
 }
 
 std::string MessageOf(int result, sqlite3* connection)
@@ -247,8 +267,8 @@ void rfm_Database::RequireFile()
 
 void rfm_Database::OpenConnection(const std::string& file, int flags)
 {
-    const int result =
-        sqlite3_open_v2(PlainPath(file).c_str(), &connection, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    const int result = sqlite3_open_v2(PlainPath(file).c_str(), &connection,
+                                       flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI, nullptr);
     if (result != SQLITE_OK)
         Raise(result, cow_String());
     sqlite3_extended_result_codes(connection, 1);
@@ -374,6 +394,34 @@ void rfm_Database::RemoveContent()
     CreateContent();
 }
 
+void rfm_Database::AttachForConversion(const rfm_Database& old)
+{
+    constexpr int attachedFiles = 2;
+    sqlite3_limit(connection, SQLITE_LIMIT_ATTACHED, attachedFiles);
+    sqlite3_limit(connection, SQLITE_LIMIT_FUNCTION_ARG, rfm_RowCopy::mostArguments);
+    rfm_Statement attach(*this, "ATTACH ? AS old");
+    const std::string uri = ReadOnlyUri(old.Path().CString());
+    attach.Bind(1, rfm_Cell::Text(uri));
+    attach.Run();
+    // A file that is gone when it is closed; in memory it could grow beyond bounds.
+    Execute("PRAGMA temp_store = FILE");
+    Execute("ATTACH '' AS scratch");
+    Execute("PRAGMA scratch.page_size = " + std::to_string(pageSize));
+    Execute("PRAGMA old.cache_size = 1000");
+    Execute("PRAGMA scratch.cache_size = 1000");
+    rfm_RowCopy::AddFunction(connection, &rowCopy);
+}
+
+void rfm_Database::CreateTable(const rfm_TableForm& form)
+{
+    Execute(form.SqlToCreate());
+}
+
+void rfm_Database::DropTable(const rfm_TableForm& form)
+{
+    Execute("DROP TABLE " + form.SqlName());
+}
+
 void rfm_Database::Commit()
 {
     if (rootInserter)
@@ -472,6 +520,19 @@ void rfm_Database::RequireTable(const cow_String& table, bool isElements)
         Raise("This is not a table of the form that a store has.", table);
 }
 
+bool rfm_Database::HasTable(const cow_String& ownTable)
+{
+    rfm_Statement statement(*this, "SELECT 1 FROM sqlite_schema WHERE name = ?", ownTable);
+    statement.Bind(1, rfm_Cell::Text(ownTable.View()));
+    if (!statement.Step())
+        return false;
+    if (ownTable == rfm_Elements::name)
+        RequireElements();
+    else
+        RequireTable(ownTable, false);
+    return true;
+}
+
 void rfm_Database::RequireElements()
 {
     RequireTable(rfm_Elements::name, true);
@@ -504,13 +565,16 @@ std::vector<cow_String> rfm_Database::ForeignParts()
     return parts;
 }
 
-void rfm_Database::CreateTable(const rfm_TableInfo& table)
+void rfm_Database::CreateTable(const rfm_TableInfo& table, const rfm_Cell& check)
 {
     Execute(rfm_TableForm::Of(table).SqlToCreate());
     rfm_Inserter catalogue(*this, rfm_TableForm::Catalogue());
     const rfm_Cell cells[] = {rfm_Cell::Text(table.name.View()), rfm_Cell::Integer(table.version),
                               rfm_Cell::Integer(table.baseClassId)};
-    catalogue.Insert(table.classId, cells);
+    if (check.Is(rfm_CellKind::Unset))
+        catalogue.Insert(table.classId, cells);
+    else
+        catalogue.Insert(table.classId, cells, check);
     catalogue.Flush();
     tables.reset();
 }

@@ -12,6 +12,7 @@
 #include <string>
 
 class rfm_NewFile;
+class rfm_RowCopy;
 struct sqlite3;
 
 /// A named object from which a store is read.
@@ -60,13 +61,25 @@ public:
     const rfm_TableInfo* FindTable(unsigned classId);
     /// Tables, views and triggers that no store has, by name.
     std::vector<cow_String> ForeignParts();
+    /// Whether the store has one of its own tables. Throws if it has something else under the name.
+    bool HasTable(const cow_String& ownTable);
     /// Throws unless the store has its table of elements in the right form.
     void RequireElements();
 
+    /// Makes the tables of `old`, a store opened for reading, reachable under `rfm_OldSchema`, for reading
+    /// alone, and opens `rfm_ScratchSchema`. This database must be a new one.
+    void AttachForConversion(const rfm_Database& old);
+    /// What is copying rows right now; its function is called for each row. Null for nothing.
+    void SetRowCopy(rfm_RowCopy* newCopy) { rowCopy = newCopy; }
+    /// Adds a table that is not entered in the catalogue: one of another schema.
+    void CreateTable(const rfm_TableForm& form);
+    void DropTable(const rfm_TableForm& form);
+
     /// Takes everything out that a store holds. Throws if there are foreign parts.
     void RemoveContent();
-    /// Adds the table of a class.
-    void CreateTable(const rfm_TableInfo& table);
+    /// Adds the table of a class. A check number that is given stands in the catalogue in place of the right
+    /// one: a null cell for none.
+    void CreateTable(const rfm_TableInfo& table, const rfm_Cell& check = {});
 
     std::vector<rfm_Root> Roots();
     void InsertRoot(const rfm_Root& root);
@@ -115,4 +128,5 @@ private:
     std::unique_ptr<rfm_ArrayStore> arrays;
     std::unique_ptr<rfm_Inserter> rootInserter;
     std::int64_t rootCount = 0;
+    rfm_RowCopy* rowCopy = nullptr;
 };

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-rfm_Inserter::rfm_Inserter(rfm_Database& database, const rfm_TableForm& form)
-    : batch(database, form.name, static_cast<int>(form.columns.size() + 2)),
+rfm_Inserter::rfm_Inserter(rfm_Database& database, const rfm_TableForm& form, rfm_OnConflict onConflict)
+    : batch(database, form, onConflict == rfm_OnConflict::Replace ? "REPLACE" : "INSERT"),
       row(form.columns.size() + 2),
       checkSeed(form.checkSeed)
 {}

@@ -4,11 +4,19 @@
 #include "rfm_RowBatch.h"
 #include "rfm_TableForm.h"
 
+/// What becomes of a row whose key is there already.
+enum class rfm_OnConflict
+{
+    Fail,
+    Replace
+};
+
 /// Puts rows into one table. They are there for reading after `Flush`.
 class OVR_EXPORT rfm_Inserter
 {
 public:
-    rfm_Inserter(rfm_Database& database, const rfm_TableForm& form);
+    rfm_Inserter(rfm_Database& database, const rfm_TableForm& form,
+                 rfm_OnConflict onConflict = rfm_OnConflict::Fail);
 
     /// `cells` are as many as the table has columns.
     void Insert(std::int64_t key, const rfm_Cell* cells);

@@ -13,8 +13,19 @@ std::size_t BytesOf(const rfm_Cell& cell)
 } // namespace
 
 rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const cow_String& table, int width)
+    : rfm_RowBatch(database, table, "INSERT INTO " + rfm_Quoted(table), width)
+{}
+
+rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const rfm_TableForm& form, const char* deed)
+    : rfm_RowBatch(database, form.name, std::string(deed) + " INTO " + form.SqlName(),
+                   static_cast<int>(form.columns.size() + 2))
+{}
+
+rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const cow_String& table, const std::string& sqlStart,
+                           int width)
     : database(database),
       table(table),
+      sqlStart(sqlStart),
       width(width),
       rowLimit(std::clamp(mostParameters / width, 1, mostRows)),
       single(database, SqlFor(1), table),
@@ -27,7 +38,7 @@ std::string rfm_RowBatch::SqlFor(int rows) const
     for (int i = 1; i < width; ++i)
         row += ",?";
     row += ")";
-    std::string sql = "INSERT INTO " + rfm_Quoted(table) + " VALUES" + row;
+    std::string sql = sqlStart + " VALUES" + row;
     for (int i = 1; i < rows; ++i)
         sql += "," + row;
     return sql;

@@ -7,13 +7,16 @@
 #include <string>
 #include <vector>
 
+struct rfm_TableForm;
+
 /// Gathers rows of one table and puts them in several at a time, which takes less than a statement for each.
 /// Rows that were not flushed are lost with the batch.
 class OVR_EXPORT rfm_RowBatch
 {
 public:
-    /// `width` is the count of the table's columns.
+    /// `width` is the count of the table's columns; `deed` what is done with each row.
     rfm_RowBatch(rfm_Database& database, const cow_String& table, int width);
+    rfm_RowBatch(rfm_Database& database, const rfm_TableForm& form, const char* deed = "INSERT");
 
     /// Takes a row of `width` cells; texts and blobs are copied.
     void Add(const rfm_Cell* cells);
@@ -30,8 +33,11 @@ private:
     void Run(rfm_Statement& statement, const rfm_Cell* cells, int rows);
     rfm_Cell Kept(const rfm_Cell& cell);
 
+    rfm_RowBatch(rfm_Database& database, const cow_String& table, const std::string& sqlStart, int width);
+
     rfm_Database& database;
     cow_String table;
+    std::string sqlStart;
     int width;
     int rowLimit;
     rfm_Statement single;

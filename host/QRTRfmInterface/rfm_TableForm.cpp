@@ -70,10 +70,14 @@ rfm_TableForm rfm_TableForm::Arrays()
             4};
 }
 
+std::string rfm_TableForm::SqlName() const
+{
+    return schema.IsEmpty() ? rfm_Quoted(name) : rfm_Quoted(schema) + "." + rfm_Quoted(name);
+}
+
 std::string rfm_TableForm::SqlToCreate() const
 {
-    std::string sql =
-        "CREATE TABLE " + rfm_Quoted(name) + " (" + rfm_Quoted(keyColumn) + " INTEGER PRIMARY KEY";
+    std::string sql = "CREATE TABLE " + SqlName() + " (" + rfm_Quoted(keyColumn) + " INTEGER PRIMARY KEY";
     for (const rfm_Column& column : columns)
         sql += ", " + rfm_Quoted(column.name) + NameOf(column.kind);
     return sql + ", " + rfm_Quoted(rfm_CheckColumn) + " INTEGER)";
@@ -84,7 +88,7 @@ std::string rfm_TableForm::SqlToRead() const
     std::string sql = "SELECT " + rfm_Quoted(keyColumn);
     for (const rfm_Column& column : columns)
         sql += ", " + rfm_Quoted(column.name);
-    return sql + ", " + rfm_Quoted(rfm_CheckColumn) + " FROM " + rfm_Quoted(name) + " WHERE " +
+    return sql + ", " + rfm_Quoted(rfm_CheckColumn) + " FROM " + SqlName() + " WHERE " +
            rfm_Quoted(keyColumn) + " >= ? ORDER BY " + rfm_Quoted(keyColumn);
 }
 
@@ -106,5 +110,8 @@ std::string rfm_Elements::SqlToRead()
 
 std::string rfm_Elements::SqlToReadAll()
 {
-    return "SELECT * FROM \"rom_Element\" ORDER BY \"ClassID\", \"OID\", \"Position\"";
+    std::string sql = "SELECT ";
+    for (int column = 0; column < ColumnCount; ++column)
+        sql += (column == 0 ? "" : ", ") + rfm_Quoted(columns[column]);
+    return sql + " FROM \"rom_Element\" ORDER BY \"ClassID\", \"OID\", \"Position\"";
 }

@@ -12,6 +12,9 @@ struct OVR_EXPORT rfm_TableForm
     cow_String keyColumn;
     std::vector<rfm_Column> columns; ///< without key and check number
     unsigned checkSeed;              ///< what tells the rows of this table from those of others
+    /// Which of the files of a connection has the table: `rfm_OldSchema`, `rfm_ScratchSchema`, or empty for
+    /// the database's own.
+    cow_String schema = {};
 
     /// That of a class's table.
     static rfm_TableForm Of(const rfm_TableInfo& table);
@@ -22,10 +25,17 @@ struct OVR_EXPORT rfm_TableForm
     /// The arrays: code of their numbers, length, bytes.
     static rfm_TableForm Arrays();
 
+    /// The table's name as SQL takes it.
+    std::string SqlName() const;
     std::string SqlToCreate() const;
     /// Rows from a key on, in ascending order: key, columns, check number.
     std::string SqlToRead() const;
 };
+
+/// Name of the attached store that is being converted, and of the file of tables that live as long as the
+/// connection.
+inline constexpr char rfm_OldSchema[] = "old";
+inline constexpr char rfm_ScratchSchema[] = "scratch";
 
 /// The table of the elements of collections.
 namespace rfm_Elements
@@ -54,7 +64,7 @@ inline constexpr int keyColumns = 3;
 std::string SqlToCreate();
 /// The elements of one collection by position, without the collection's own two columns.
 std::string SqlToRead();
-/// All elements.
+/// All elements, with all columns as counted by `Column`.
 std::string SqlToReadAll();
 } // namespace rfm_Elements
 

@@ -1,0 +1,155 @@
+#pragma once
+
+#include "ovr_Export.h"
+#include "rfm_Statement.h"
+#include "rfm_TableForm.h"
+
+#include <exception>
+#include <functional>
+#include <vector>
+
+struct sqlite3;
+struct sqlite3_context;
+struct sqlite3_value;
+
+/// Stands in the class id of a reference that nothing was put into yet.
+inline constexpr std::int64_t rfm_UnsetReference = -1;
+
+/// One column of the rows that a copy makes.
+struct rfm_CopyColumn
+{
+    /// What its cells may be beside what the column is declared to hold.
+    enum class Use
+    {
+        Scalar,  ///< nothing else; NULL takes the value of `fallback`
+        ClassId, ///< NULL, or `rfm_UnsetReference`, which takes the value of `fallback`
+        Number   ///< NULL: the row number of a reference, or an optional integer
+    };
+
+    int source = -1; ///< the column that is copied; -1 for none, which leaves `fallback`
+    Use use = Use::Scalar;
+    /// A text or blob must stay as long as the copy.
+    rfm_Cell fallback = rfm_Cell::Null();
+};
+
+/// The class ids of a reference that changes.
+struct rfm_ClassIdChange
+{
+    std::int64_t from;
+    std::int64_t to;
+};
+
+/// Row numbers that were met in one reference column, by class id.
+class OVR_EXPORT rfm_ReferenceColumn
+{
+public:
+    struct Range
+    {
+        std::int64_t classId;
+        std::int64_t low;
+        std::int64_t high;
+    };
+
+    /// `classCell` is -1 where all references lead to rows of `classId`.
+    rfm_ReferenceColumn(int classCell, int oidCell, std::int64_t classId = 0)
+        : classCell(classCell), oidCell(oidCell), fixedClassId(classId)
+    {}
+
+    /// Takes the reference of a row.
+    void Note(const rfm_Cell* cells)
+    {
+        const rfm_Cell& oid = cells[oidCell];
+        const rfm_Cell& id = classCell < 0 ? oid : cells[classCell];
+        if (id.IsNull())
+            ++nulls;
+        else
+            Note(classCell < 0 ? fixedClassId : id.integer, oid.IsNull() ? 0 : oid.integer);
+    }
+
+    int ClassCell() const { return classCell; }
+    int OidCell() const { return oidCell; }
+    const std::vector<Range>& Ranges() const { return ranges; }
+    std::int64_t Nulls() const { return nulls; }
+    /// Whether `rfm_UnsetReference` was met.
+    bool HasUnset() const;
+
+private:
+    void Note(std::int64_t classId, std::int64_t oid)
+    {
+        if (last < ranges.size() && ranges[last].classId == classId) [[likely]]
+        {
+            Range& range = ranges[last];
+            if (oid < range.low)
+                range.low = oid;
+            if (oid > range.high)
+                range.high = oid;
+            return;
+        }
+        NoteOther(classId, oid);
+    }
+    void NoteOther(std::int64_t classId, std::int64_t oid);
+
+    int classCell;
+    int oidCell;
+    std::int64_t fixedClassId;
+    std::vector<Range> ranges;
+    std::size_t last = 0;
+    std::int64_t nulls = 0;
+};
+
+/// Copies the rows of one table into another of other columns, within one statement where that can be. Each
+/// row's check number is compared, and the new row gets its own. Rows are refused that hold another kind of
+/// value than their column is declared to.
+class OVR_EXPORT rfm_RowCopy
+{
+public:
+    /// What the library takes, less the two for check number and row.
+    static constexpr int mostArguments = 127;
+
+    struct Plan
+    {
+        rfm_TableForm from;
+        rfm_TableForm to;
+        std::vector<rfm_CopyColumn> columns; ///< one for each of `to`
+        std::vector<rfm_ClassIdChange> changes;
+        /// Tables whose rows stand in place of those of the same number here.
+        std::vector<rfm_TableForm> coveredBy;
+    };
+
+    /// `references` take the references of the new rows, and may be shared by several copies.
+    rfm_RowCopy(rfm_Database& database, Plan plan, std::vector<rfm_ReferenceColumn>& references);
+    rfm_RowCopy(const rfm_RowCopy&) = delete;
+    rfm_RowCopy& operator=(const rfm_RowCopy&) = delete;
+
+    /// Calls `progress` now and then with the count of rows copied since.
+    void Run(const std::function<void(std::int64_t)>& progress);
+
+    /// Adds the function by which statements call the copy at `place`.
+    static void AddFunction(sqlite3* connection, rfm_RowCopy** place);
+
+private:
+    static void CopyRow(sqlite3_context* context, int count, sqlite3_value** arguments);
+
+    bool FitsOneStatement() const;
+    std::string SqlOfColumn(std::size_t column, int& parameter) const;
+    std::string SqlOfConditions() const;
+    std::string SqlOfSourceColumns() const;
+    void BindParameters(rfm_Statement& statement) const;
+    void RunAsOne();
+    void RunRowByRow();
+    /// Makes the new row of a source row, and returns its check number.
+    std::int64_t Convert(std::int64_t oid, const rfm_Cell& check);
+    rfm_Cell CellOf(std::size_t column, std::int64_t oid) const;
+    void CountRow();
+    [[noreturn]] void RaiseDamaged(std::int64_t oid) const;
+    [[noreturn]] void RaiseKind(std::int64_t oid, std::size_t column, const rfm_Cell& cell) const;
+
+    rfm_Database& database;
+    Plan plan;
+    std::vector<rfm_ReferenceColumn>& references;
+    const std::function<void(std::int64_t)>* progress = nullptr;
+    std::vector<rfm_Cell> source;
+    std::vector<rfm_Cell> target;
+    std::int64_t untoldRows = 0;
+    std::exception_ptr failure;
+};
