@@ -15,9 +15,9 @@ struct cls_KindOf;
 // collection. An import throws `cls_ValueError` and leaves the collection as it was if the value does not
 // fit.
 template <class T>
-cls_Value cls_ExportCollection(const cls_xpScalarList<T>& list);
+OVR_EXPORT cls_Value cls_ExportCollection(const cls_xpScalarList<T>& list);
 template <class T>
-void cls_ImportCollection(cls_xpScalarList<T>& list, const cls_Value& value);
+OVR_EXPORT void cls_ImportCollection(cls_xpScalarList<T>& list, const cls_Value& value);
 OVR_EXPORT cls_Value cls_ExportCollection(const cls_xp2DArrayDouble& array);
 OVR_EXPORT void cls_ImportCollection(cls_xp2DArrayDouble& array, const cls_Value& value);
 OVR_EXPORT cls_Value cls_ExportCollection(const cls_xpMapString2Float& map);
@@ -124,6 +124,25 @@ public:
 template <class T, cls_KindEnm KindId>
 using ScalarListKind = CollectionKind<cls_xpScalarList<T>, KindId, cls_ListTypeId>;
 
+/// Writes the object of a handle, or an absent value.
+template <class T, class P>
+void WriteOptional(const cow_COW<T, P>& handle, const cls_WriteVisitor& visitor, const cls_FieldHandle& field)
+{
+    if (handle.IsNull())
+    {
+        visitor.Memento().PutAbsent(field);
+        return;
+    }
+    const cls_WriteVisitor nested(visitor, field, &cow_Erased(handle), nullptr);
+    handle->DBWrite(nested);
+}
+
+template <class T, class P>
+cow_COW<T, P> ReadOptional(const cls_ReadVisitor& visitor, const cls_FieldHandle& field)
+{
+    return cow_Restored<T, P>(visitor.Memento().GetObject(field, T::TypeId()));
+}
+
 /// The part of an optional object that does not depend on its class.
 class OVR_EXPORT OptionalKindBase : public cls_Kind
 {
@@ -151,20 +170,12 @@ public:
     void Write(const void* member, const cls_WriteVisitor& visitor,
                const cls_FieldHandle& field) const override
     {
-        const Handle& handle = *static_cast<const Handle*>(member);
-        if (handle.IsNull())
-        {
-            visitor.Memento().PutAbsent(field);
-            return;
-        }
-        const cls_WriteVisitor nested(visitor, field, &cow_Erased(handle), nullptr);
-        handle->DBWrite(nested);
+        WriteOptional(*static_cast<const Handle*>(member), visitor, field);
     }
 
     void Read(void* member, const cls_ReadVisitor& visitor, const cls_FieldHandle& field) const override
     {
-        const cls_ErasedHandle& stored = visitor.Memento().GetObject(field, T::TypeId());
-        *static_cast<Handle*>(member) = cow_Restored<T, P>(stored);
+        *static_cast<Handle*>(member) = ReadOptional<T, P>(visitor, field);
     }
 
     cls_Value Export(const void* member) const override

@@ -1,6 +1,16 @@
 #include "cls_ObjectCollections.h"
 
+#include "nex_Exceptions.h"
+#include "typ_ArchCompTable.h"
+
 #include <charconv>
+
+void cls_detail::RaiseForeignElement(unsigned classId)
+{
+    const std::string message =
+        std::string("an element that is no object of class ") + typ_ArchCompTable::GetName(classId);
+    nex_PrimException<atr_String, 1>(atr_String(message.c_str()), 0).Throw(__FILE__, __LINE__);
+}
 
 int cls_detail::MapForm<int>::Key(const std::string& text)
 {

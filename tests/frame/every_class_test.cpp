@@ -1,9 +1,7 @@
-// These tests run over every class that the library registers, so a new class is covered as soon as it is
-// declared.
+// What every class must do by itself.
 
 #include "DDB_DeepCopyPtr.h"
-#include "LibraryEnvironment.h"
-#include "RandomValue.h"
+#include "EveryClass.h"
 #include "cls_MetadataRegistrar.h"
 #include "typ_ArchCompTable.h"
 
@@ -13,55 +11,6 @@
 
 namespace
 {
-
-std::vector<const cls_Description*> Classes(bool concreteOnly)
-{
-    LibraryEnvironment::Require();
-    std::vector<const cls_Description*> classes;
-    for (const cls_Description* description : cls_Descriptions().All())
-    {
-        if (!concreteOnly || !description->IsAbstract())
-            classes.push_back(description);
-    }
-    return classes;
-}
-
-std::string NameOf(const testing::TestParamInfo<const cls_Description*>& info)
-{
-    return info.param->Name();
-}
-
-/// Identities of all layers of an object, the outermost first.
-std::vector<cls_Uid> UidsOf(const cls_Description& description, const void* object)
-{
-    std::vector<cls_Uid> uids;
-    for (const cls_Description* layer = &description; layer; layer = layer->Base())
-        uids.push_back(layer->Info().uid(object));
-    return uids;
-}
-
-class EveryClass : public testing::TestWithParam<const cls_Description*>
-{
-protected:
-    const cls_Description& description = *GetParam();
-};
-
-class EveryConcreteClass : public EveryClass
-{
-protected:
-    static constexpr std::uint32_t seeds = 40;
-
-    cls_AnyObject NewObject() const { return cls_AnyObject(description, description.Info().create()); }
-
-    /// An object with random values, and its value.
-    cls_AnyObject RandomObject(std::uint32_t seed, cls_Value& value) const
-    {
-        value = RandomValue(seed).ObjectOf(description);
-        cls_AnyObject object = NewObject();
-        description.Import(object.Get(), value);
-        return object;
-    }
-};
 
 TEST_P(EveryClass, IsDescribedByItsMetadata)
 {
@@ -189,7 +138,7 @@ TEST_P(EveryConcreteClass, RefusesAnUnknownAttribute)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Library, EveryClass, testing::ValuesIn(Classes(false)), NameOf);
-INSTANTIATE_TEST_SUITE_P(Library, EveryConcreteClass, testing::ValuesIn(Classes(true)), NameOf);
+INSTANTIATE_TEST_SUITE_P(Library, EveryClass, testing::ValuesIn(EveryClasses(false)), EveryClassName);
+INSTANTIATE_TEST_SUITE_P(Library, EveryConcreteClass, testing::ValuesIn(EveryClasses(true)), EveryClassName);
 
 } // namespace

@@ -63,6 +63,22 @@ public:
             return Map(false, [this] { return Array(); });
         case MapFloat:
             return Map(false, [this] { return cls_Value(static_cast<double>(Below(1000)) / 8.0); });
+        case PropertyTable:
+            return Array();
+        case Region:
+            return RegionValue();
+        case RegionList:
+            return List([this] { return RegionValue(); });
+        case RegionPairList:
+            return List([this] { return RegionPairValue(); });
+        case Datum:
+            return cls_Value::Object{{"name", Text()}};
+        case Segment:
+            return SegmentValue();
+        case SegmentList:
+            return List([this] { return SegmentValue(); });
+        case Dot:
+            return cls_Value::Object{{"point", Point()}};
         default:
             ADD_FAILURE() << "no values for attributes of kind " << kind.Name();
             return cls_Value();
@@ -130,6 +146,25 @@ private:
         }
         return rows;
     }
+
+    cls_Value RegionValue()
+    {
+        return cls_Value::Object{{"name", Text()}, {"flag", Integer()}, {"kinds", Integer()}};
+    }
+
+    cls_Value RegionPairValue()
+    {
+        cls_Value::Object members{{"first", RegionValue()}, {"second", RegionValue()}};
+        if (Chance(2))
+            members.emplace_back("firstFlag", true);
+        if (Chance(2))
+            members.emplace_back("secondFlag", true);
+        return members;
+    }
+
+    cls_Value SegmentValue() { return cls_Value::Object{{"from", Point()}, {"to", Point()}}; }
+
+    cls_Value Point() { return cls_Value::Array{Number(), Number(), Number()}; }
 
     cls_Value Descendant(const cls_Description& root, int depth)
     {

@@ -11,36 +11,6 @@
 #include <stdexcept>
 #include <vector>
 
-tst_Folder::tst_Folder()
-{
-    // In memory where there is such a place: the tests sync often.
-    const std::filesystem::path memory = "/dev/shm";
-    const std::filesystem::path parent =
-        std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
-    std::string pattern = (parent / "ovr-store-XXXXXX").string();
-    if (!mkdtemp(pattern.data()))
-        throw std::runtime_error("no folder for the test");
-    path = pattern;
-}
-
-tst_Folder::~tst_Folder()
-{
-    std::error_code ignored;
-    std::filesystem::remove_all(path, ignored);
-}
-
-std::string tst_Folder::Names() const
-{
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(path))
-        names.push_back(entry.path().filename().string());
-    std::sort(names.begin(), names.end());
-    std::string text;
-    for (const std::string& name : names)
-        text += (text.empty() ? "" : " ") + name;
-    return text;
-}
-
 void tst_Save(const std::string& path, const tst_Part& part)
 {
     tst_RequireClasses();

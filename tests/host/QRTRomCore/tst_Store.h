@@ -1,26 +1,9 @@
 #pragma once
 
+#include "TemporaryFolder.h"
 #include "tst_Classes.h"
 
-#include <filesystem>
-#include <string>
-
-/// A folder of its own for one test, gone when the test ends.
-class tst_Folder
-{
-public:
-    tst_Folder();
-    tst_Folder(const tst_Folder&) = delete;
-    tst_Folder& operator=(const tst_Folder&) = delete;
-    ~tst_Folder();
-
-    std::string operator/(const char* name) const { return (path / name).string(); }
-    /// Names of all files, sorted, with a blank between them.
-    std::string Names() const;
-
-private:
-    std::filesystem::path path;
-};
+using tst_Folder = TemporaryFolder;
 
 /// Writes a part as the root "model".
 void tst_Save(const std::string& path, const tst_Part& part);
