@@ -5,6 +5,7 @@
 #include "app_Show.h"
 #include "app_Table.h"
 #include "cls_Module.h"
+#include "cmd_Error.h"
 #include "typ_ArchCompTable.h"
 
 #include <algorithm>
@@ -285,8 +286,17 @@ const cls_Description& app_FindClass(const std::string& nameOrWord)
         if (ConstructorWord(*description) == nameOrWord && !nameOrWord.empty())
             return *description;
     }
+    std::vector<std::string> known;
+    for (const cls_Description* description : cls_Descriptions().All())
+    {
+        known.emplace_back(description->Name());
+        if (const std::string word = ConstructorWord(*description); !word.empty())
+            known.push_back(word);
+    }
+    const std::string nearest = cmd_Nearest(nameOrWord, known);
     throw app_Error("no class has the name or the constructor word " + nameOrWord +
-                    "; `vdbattr catalog` lists them");
+                    (nearest.empty() ? "" : "; did you mean " + nearest + '?') +
+                    " (`vdbattr catalog` lists them)");
 }
 
 namespace

@@ -2,43 +2,15 @@
 
 #include "app_Error.h"
 #include "app_Json.h"
-#include "cls_Module.h"
-
-#include <string_view>
-
-namespace
-{
-
-/// "kamC:2" for the module's own assert function, "klcC_AssertLoadCaseContent:2" for any other.
-std::string IdOf(const cls_RuleException& rule)
-{
-    std::string_view function = rule.Table().function;
-    constexpr std::string_view ending = "_Assert";
-    if (function.ends_with(ending))
-        function.remove_suffix(ending.size());
-    return std::string(function) + ':' + std::to_string(rule.Code());
-}
-
-} // namespace
+#include "cmd_Rules.h"
 
 std::optional<app_Finding> app_CheckObject(const cls_Description& description, const void* object,
                                            const std::string& path)
 {
-    if (!description.Info().assertValid)
+    const std::optional<cmd_BrokenRule> rule = cmd_FindBrokenRule(description, object);
+    if (!rule)
         return std::nullopt;
-    try
-    {
-        description.Info().assertValid(object);
-        return std::nullopt;
-    }
-    catch (const cls_RuleException& rule)
-    {
-        return app_Finding{path, description.Name(), IdOf(rule), rule.Code(), rule.what()};
-    }
-    catch (const QRTBasException& error)
-    {
-        return app_Finding{path, description.Name(), "", std::nullopt, error.what()};
-    }
+    return app_Finding{path, description.Name(), rule->id, rule->code, rule->message};
 }
 
 std::vector<app_Finding> app_CheckModel(const ddr_Model& model, app_Progress& progress)

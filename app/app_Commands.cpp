@@ -17,6 +17,7 @@
 
 #include <iostream>
 #include <memory>
+#include <sstream>
 
 #include <fmt/format.h>
 #include <unistd.h>
@@ -55,15 +56,6 @@ void PrintValue(const cls_Value& value, app_JsonLayout layout = app_JsonLayout::
     app_Print(app_WriteJson(value, layout) + '\n');
 }
 
-/// Warns of the rule that an object breaks, if it breaks one.
-void WarnOf(const app_Object& object)
-{
-    const auto finding =
-        app_CheckObject(object.description, object.object, app_PathOf(object.repositoryWord, object.name));
-    if (finding)
-        app_Warn(fmt::format("{}: {} {}", finding->path, finding->id, finding->message));
-}
-
 class CatalogCommand : public Command
 {
 public:
@@ -99,21 +91,23 @@ public:
     {
         parser.footer(
             "  vdbattr new model.vdb\n"
-            "  vdbattr new model.vdb \"amplitudes['ramp']\" TabularAmplitude data='[[0, 0], [1, 1]]'");
+            "  vdbattr new model.vdb \"TabularAmplitude(name='ramp', data=((0, 0), (1, 1)))\"\n"
+            "  vdbattr new model.vdb \"amplitudes['ramp']\" TabularAmplitude data='[[0, 0], [1, 1]]'\n"
+            "  vdbattr new model.vdb \"amplitudes['ramp'].BaselineCorrection(intervals=(0, 5))\"");
         parser.add_option("STORE", store, storeHelp)->required();
-        CLI::Option* const pathOption = parser.add_option("PATH", path, "Path of a new object in STORE");
-        parser.add_option("CLASS", className, "Its constructor word or class name")->needs(pathOption);
-        parser.add_option("WORD=VALUE", settings, "Its attributes, as for `set`");
+        CLI::Option* const objectOption =
+            parser.add_option("OBJECT", object, "A new object in STORE: the call that makes it, or its path");
+        parser.add_option("CLASS", className, "With a path: constructor word or class name")
+            ->needs(objectOption);
+        parser.add_option("WORD=VALUE", settings, "With a path: attributes, as for `set`");
         parser.add_flag("--force", force, forceHelp);
         options.AddTo(parser);
     }
 
     int Run() override
     {
-        if (path.empty())
+        if (object.empty())
             MakeStore();
-        else if (className.empty())
-            throw app_Error("new: " + path + ": expected the class of the new object after its path");
         else
             MakeObject();
         return app_Fine;
@@ -122,20 +116,24 @@ public:
 private:
     void MakeStore() const
     {
-        app_WriteStore(ddr_ModelHandle(new ddr_Model), store, app_SaveModeFor(store, force));
+        const app_SaveMode mode = app_SaveModeFor(store, force);
+        options.RequireJournal(store);
+        app_WriteStore(ddr_ModelHandle(new ddr_Model), store, mode);
     }
 
     void MakeObject() const
     {
         app_Editor editor(store, options);
-        const cmd_Path where = cmd_ParsePath(path);
-        app_MakeObject(editor.Session(), where, app_FindClass(className), settings, force);
-        WarnOf(app_FindObject(editor.Model(), where));
+        if (className.empty())
+            app_MakeByCall(editor.Session(), object, force);
+        else
+            app_MakeObject(editor.Session(), cmd_ParsePath(object), app_FindClass(className), settings,
+                           force);
         editor.Save();
     }
 
     std::string store;
-    std::string path;
+    std::string object;
     std::string className;
     std::vector<std::string> settings;
     bool force = false;
@@ -268,23 +266,31 @@ public:
 
     int Run() override
     {
-        const ddr_ModelHandle model = app_ReadModel(store);
+        const cmd_Session session(app_ReadModel(store));
         const cmd_Path object = cmd_ParsePath(path);
         const cmd_Path where = word.empty() ? object : object.WithWord(word);
-        const cmd_Located located = cmd_Locate(*model, where);
-        cls_Value whole = located.description.Export(located.object);
-        Print(cmd_FindWithin(whole, where));
+        const cmd_Value value = session.Get(where);
+        if (json)
+            PrintValue(where.steps.size() < 2 ? NamesOf(value) : StoredValue(*session.Model(), where));
+        else
+            app_Print(value.Text() + '\n');
         return app_Fine;
     }
 
 private:
-    void Print(const cls_Value& value) const
+    static cls_Value NamesOf(const cmd_Value& names)
     {
-        const std::string* const text = value.AsText();
-        if (text && !json)
-            app_Print(*text + '\n');
-        else
-            PrintValue(value);
+        cls_Value::Array texts;
+        for (const cmd_Value& name : *names.AsElements())
+            texts.emplace_back(*name.AsText());
+        return texts;
+    }
+
+    static cls_Value StoredValue(const ddr_Model& model, const cmd_Path& where)
+    {
+        const cmd_Located located = cmd_Locate(model, where);
+        cls_Value whole = located.description.Export(located.object);
+        return cmd_FindWithin(whole, where);
     }
 
     std::string store;
@@ -324,7 +330,6 @@ public:
         }
         if (json)
             PrintValue(app_ValueOfChanges(path, changes));
-        WarnOf(app_FindObject(editor.Model(), where));
         return app_Fine;
     }
 
@@ -389,21 +394,56 @@ private:
     app_EditOptions options;
 };
 
+constexpr const char* scriptHelp =
+    "Commands are lines of Python, as a journal has them; a path alone prints what is there:\n"
+    "  model.TabularAmplitude(name='ramp', data=((0.0, 0.0), (1.0, 1.0)))\n"
+    "  model.amplitudes['ramp'].setValues(timeSpan=TOTAL, smooth=0.25)\n"
+    "  model.amplitudes['ramp'].rename(name='rise')\n"
+    "  del model.amplitudes['rise']\n"
+    "  model.undo()\n"
+    "  model.amplitudes['ramp'].data\n"
+    "The store is changed when all lines are done. A line that is refused ends a script, and nothing\n"
+    "is changed; ";
+
+class RunCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.footer(std::string(scriptHelp) + "the message tells file and line.");
+        parser.add_option("STORE", store, storeHelp)->required();
+        parser.add_option("SCRIPT", script, "Script or journal to carry out; - for standard input")
+            ->required();
+        options.AddTo(parser);
+    }
+
+    int Run() override
+    {
+        const bool isInput = script == "-";
+        std::istringstream lines(isInput ? "" : app_ReadFile(script));
+        app_Editor editor(store, options);
+        if (isInput)
+            app_RunScript(editor.Session(), std::cin, standardInput);
+        else
+            app_RunScript(editor.Session(), lines, script);
+        editor.Save();
+        return app_Fine;
+    }
+
+    static constexpr const char* standardInput = "standard input";
+
+private:
+    std::string store;
+    std::string script;
+    app_EditOptions options;
+};
+
 class EditCommand : public Command
 {
 public:
     void AddTo(CLI::App& parser) override
     {
-        parser.footer(
-            "Commands are lines of Python, as a journal has them; a path alone prints what is there:\n"
-            "  model.TabularAmplitude(name='ramp', data=((0.0, 0.0), (1.0, 1.0)))\n"
-            "  model.amplitudes['ramp'].setValues(timeSpan=TOTAL, smooth=0.25)\n"
-            "  model.amplitudes['ramp'].rename(name='rise')\n"
-            "  del model.amplitudes['rise']\n"
-            "  model.undo()\n"
-            "  model.amplitudes['ramp'].data\n"
-            "The store is changed at the end of the input. A line that is refused ends a script, and\n"
-            "nothing is changed; at a terminal the next line is asked for.");
+        parser.footer(std::string(scriptHelp) + "at a terminal the next line is asked for.");
         parser.add_option("STORE", store, storeHelp)->required();
         options.AddTo(parser);
     }
@@ -411,47 +451,17 @@ public:
     int Run() override
     {
         app_Editor editor(store, options);
-        isTerminal = ::isatty(STDIN_FILENO) == 1;
-        std::string line;
-        for (int number = 1; Ask(), std::getline(std::cin, line); ++number)
-            RunLine(editor.Session(), line, number);
+        if (::isatty(STDIN_FILENO) == 1)
+            app_TalkScript(editor.Session(), std::cin);
+        else
+            app_RunScript(editor.Session(), std::cin, RunCommand::standardInput);
         editor.Save();
         return app_Fine;
     }
 
 private:
-    void Ask() const
-    {
-        if (isTerminal)
-            app_PrintNow(">>> ");
-    }
-
-    void RunLine(cmd_Session& session, const std::string& line, int number) const
-    {
-        const std::string where = fmt::format("line {}: ", number);
-        try
-        {
-            const std::string answer = app_RunLine(session, line);
-            if (!answer.empty())
-                app_Print(answer + '\n');
-        }
-        catch (const app_RuleError& error)
-        {
-            if (!isTerminal)
-                throw app_RuleError(where + error.what());
-            app_Warn(error.what());
-        }
-        catch (const cmd_Error& error)
-        {
-            if (!isTerminal)
-                throw app_Error(where + error.what());
-            app_Warn(error.what());
-        }
-    }
-
     std::string store;
     app_EditOptions options;
-    bool isTerminal = false;
 };
 
 class DiffCommand : public Command
@@ -650,7 +660,8 @@ void app_AddCommands(CLI::App& parser, int& exitCode)
     Add<SetCommand>(parser, exitCode, "set", "Change attributes of an object");
     Add<DeleteCommand>(parser, exitCode, "del", "Delete an object");
     Add<RenameCommand>(parser, exitCode, "rename", "Give an object another name");
-    Add<EditCommand>(parser, exitCode, "edit", "Carry out commands from standard input, with undo and redo");
+    Add<RunCommand>(parser, exitCode, "run", "Carry out a script or a journal on a stored model");
+    Add<EditCommand>(parser, exitCode, "edit", "Carry out commands as they are typed, with undo and redo");
     Add<DiffCommand>(parser, exitCode, "diff", "Show what differs between two models");
     Add<CheckCommand>(parser, exitCode, "check", "Check objects by the rules of their classes");
     Add<DumpCommand>(parser, exitCode, "dump", "Print the tables of a stored model, row by row");

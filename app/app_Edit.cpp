@@ -9,7 +9,11 @@
 #include "cmd_Script.h"
 #include "cmd_Statement.h"
 
+#include <cstring>
+#include <filesystem>
+#include <istream>
 #include <optional>
+#include <string_view>
 
 namespace
 {
@@ -28,21 +32,8 @@ Setting ParseSetting(const std::string& setting)
     return {setting.substr(0, equals), setting.substr(equals + 1)};
 }
 
-std::optional<cmd_Value> TryScript(const std::string& text)
-{
-    try
-    {
-        return cmd_ParseValue(text);
-    }
-    catch (const cmd_Error&)
-    {
-        return std::nullopt;
-    }
-}
-
-/// The text as JSON or as scripts write it, or nothing if it is neither. A text that begins like JSON must be
-/// one of them.
-std::optional<cmd_Value> TryValue(const Setting& setting)
+/// The text as JSON or as scripts write it. Throws `cmd_Error` if it is neither.
+cmd_Value ReadValue(const Setting& setting)
 {
     try
     {
@@ -50,28 +41,37 @@ std::optional<cmd_Value> TryValue(const Setting& setting)
     }
     catch (const app_Error&)
     {
-        std::optional<cmd_Value> value = TryScript(setting.text);
-        const char first = setting.text.empty() ? '\0' : setting.text.front();
-        if (!value && (first == '[' || first == '{' || first == '"'))
-            throw;
-        return value;
+        return cmd_ParseValue(setting.text);
     }
 }
 
-/// What the text of a setting stands for in an attribute of this kind.
-cmd_Value ValueOf(const Setting& setting, const cls_Kind& kind)
+/// The text itself, for an attribute that takes plain texts, unless it begins as a value does.
+std::optional<cmd_Value> TryPlainText(const std::string& text, cls_KindEnm kind)
 {
-    const std::optional<cmd_Value> value = TryValue(setting);
-    switch (kind.Id())
+    const bool isValue = !text.empty() && std::strchr("[{(\"'", text.front());
+    if (isValue || (kind != cls_KindEnm::String && kind != cls_KindEnm::Enum))
+        return std::nullopt;
+    return text;
+}
+
+/// What the text of a setting stands for in an attribute.
+cmd_Value ValueOf(const Setting& setting, const cls_Attribute& attribute)
+{
+    const cls_KindEnm kind = attribute.kind->Id();
+    if (setting.text == "unset" && kind == cls_KindEnm::Double)
+        return cls_UnsetDouble;
+    if (setting.text == "unset" && kind == cls_KindEnm::Int)
+        return cls_UnsetInt;
+    try
     {
-    case cls_KindEnm::String:
-        return value && value->AsText() ? *value : cmd_Value(setting.text);
-    case cls_KindEnm::Double:
-        return setting.text == "unset" ? cmd_Value(cls_UnsetDouble) : value.value_or(setting.text);
-    case cls_KindEnm::Int:
-        return setting.text == "unset" ? cmd_Value(cls_UnsetInt) : value.value_or(setting.text);
-    default:
-        return value.value_or(setting.text);
+        const cmd_Value value = ReadValue(setting);
+        return kind == cls_KindEnm::String && !value.AsText() ? cmd_Value(setting.text) : value;
+    }
+    catch (const cmd_Error&)
+    {
+        if (const std::optional<cmd_Value> text = TryPlainText(setting.text, kind))
+            return *text;
+        throw;
     }
 }
 
@@ -82,23 +82,16 @@ cmd_Arguments ArgumentsOf(const cls_Description& description, const std::vector<
     {
         const Setting setting = ParseSetting(text);
         const cls_Attribute& attribute = cmd_RequireAttribute(description, setting.word, setting.text);
-        arguments.emplace_back(setting.word, ValueOf(setting, *attribute.kind));
+        try
+        {
+            arguments.emplace_back(setting.word, ValueOf(setting, attribute));
+        }
+        catch (const cmd_Error& error)
+        {
+            throw cmd_Error(std::string(description.Name()) + '.' + setting.word + ": ", error);
+        }
     }
     return arguments;
-}
-
-/// Runs a command on the object at a path; a rule that it breaks is told with the path.
-template <class Command>
-void Obeying(const std::string& path, Command command)
-{
-    try
-    {
-        command();
-    }
-    catch (const nex_PrimException<atr_String, 1>& rule)
-    {
-        throw app_RuleError((path.empty() ? "" : path + ": ") + rule.what());
-    }
 }
 
 /// The object at a path as a value.
@@ -110,6 +103,12 @@ cls_Value ObjectAt(const ddr_Model& model, const cmd_Path& path)
     if (!cmd_ClassOfValue(part))
         throw app_Error(path.Text() + " is " + part.Summary() + ", expected an object");
     return part;
+}
+
+void PrintAnswer(const std::string& answer)
+{
+    if (!answer.empty())
+        app_Print(answer + '\n');
 }
 
 } // namespace
@@ -125,14 +124,24 @@ void app_EditOptions::AddTo(CLI::App& parser)
     parser.add_flag("--unchecked", unchecked, "Take changes that break a rule");
 }
 
+void app_EditOptions::RequireJournal(const std::string& store) const
+{
+    if (journal.empty())
+        return;
+    std::error_code ignored;
+    if (std::filesystem::equivalent(journal, store, ignored))
+        throw app_Error(journal + ": is the store, expected another file as journal");
+    app_AppendLines(journal, "");
+}
+
 app_Editor::app_Editor(const std::string& store, const app_EditOptions& options)
     : store(store),
       journal(options.journal),
       session(app_ReadStore(store), options.unchecked ? cmd_Session::Checks::None : cmd_Session::Checks::All)
 {
     session.SetJournal([this](const std::string& line) { lines += line + '\n'; });
-    if (!journal.empty())
-        app_AppendToFile(journal, "");
+    session.SetWarning([](const cmd_RuleError& broken) { app_Warn(broken.what()); });
+    options.RequireJournal(store);
 }
 
 void app_Editor::Save()
@@ -140,8 +149,16 @@ void app_Editor::Save()
     if (lines.empty())
         return;
     app_WriteStore(session.Model(), store, app_SaveMode::InPlace);
-    if (!journal.empty())
-        app_AppendToFile(journal, lines);
+    if (journal.empty())
+        return;
+    try
+    {
+        app_AppendLines(journal, lines);
+    }
+    catch (const app_Error& error)
+    {
+        throw app_Error(std::string(error.what()) + "; " + store + " is changed all the same");
+    }
     lines.clear();
 }
 
@@ -151,7 +168,7 @@ std::vector<app_Change> app_SetValues(cmd_Session& session, const cmd_Path& path
     const cls_Value before = ObjectAt(*session.Model(), path);
     const cls_Description& description = *cmd_ClassOfValue(before);
     const cmd_Arguments arguments = ArgumentsOf(description, settings);
-    Obeying(path.Text(), [&] { session.SetValues(path, arguments); });
+    session.SetValues(path, arguments);
     const cls_Value after = ObjectAt(*session.Model(), path);
     std::vector<app_Change> changes;
     for (const auto& argument : arguments)
@@ -178,14 +195,64 @@ void app_MakeObject(cmd_Session& session, const cmd_Path& path, const cls_Descri
         throw app_Error(path.Text() + ": there is such an object already; --force replaces it");
     cmd_Arguments arguments = ArgumentsOf(description, settings);
     arguments.insert(arguments.begin(), {"name", name});
-    Obeying(path.Text(), [&] { session.Make(cmd_Path(), constructor, arguments); });
+    session.Make(cmd_Path(), constructor, arguments);
 }
 
-std::string app_RunLine(cmd_Session& session, const std::string& line)
+void app_MakeByCall(cmd_Session& session, const std::string& call, bool replace)
 {
-    std::string answer;
-    Obeying("", [&] { answer = cmd_Run(session, line); });
-    return answer;
+    constexpr std::string_view model = "model.";
+    const bool isWhole = call.compare(0, model.size(), model) == 0;
+    const cmd_Statement statement = cmd_ParseStatement(isWhole ? call : std::string(model) + call);
+    if (statement.sort != cmd_Statement::Sort::Call)
+        throw app_Error(call +
+                        ": expected a constructor's call, as DecayAmplitude(name='fading', initial=1.0), "
+                        "or the class of the new object after its path");
+    const int count = app_ObjectCount(*session.Model());
+    session.Make(statement.path, statement.word, statement.arguments);
+    const bool isReplaced = statement.path.steps.empty() && app_ObjectCount(*session.Model()) == count;
+    if (isReplaced && !replace)
+        throw app_Error(call + ": there is an object of this name already; --force replaces it");
+}
+
+void app_RunScript(cmd_Session& session, std::istream& script, const std::string& source)
+{
+    std::string line;
+    for (long number = 1; std::getline(script, line); ++number)
+    {
+        const std::string where = source + ':' + std::to_string(number) + ": ";
+        try
+        {
+            PrintAnswer(cmd_Run(session, line));
+        }
+        catch (const cmd_RuleError& error)
+        {
+            throw cmd_RuleError(where, error);
+        }
+        catch (const cmd_Error& error)
+        {
+            throw cmd_Error(where, error);
+        }
+    }
+}
+
+void app_TalkScript(cmd_Session& session, std::istream& input)
+{
+    std::string line;
+    while (app_PrintNow(">>> "), std::getline(input, line))
+    {
+        try
+        {
+            PrintAnswer(cmd_Run(session, line));
+        }
+        catch (const cmd_RuleError& error)
+        {
+            app_Warn(error.what());
+        }
+        catch (const cmd_Error& error)
+        {
+            app_Warn(error.what(), error.Place());
+        }
+    }
 }
 
 cls_Value app_ValueOfChanges(const std::string& path, const std::vector<app_Change>& changes)

@@ -3,16 +3,11 @@
 #include <stdexcept>
 #include <string>
 
+struct cmd_Place;
+
 /// Input that cannot be used, or a command that cannot be carried out: one line for people, which names the
 /// file, path or word at fault and what was expected. The program ends with `app_Unusable`.
 class app_Error : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
-};
-
-/// A change that is refused because a rule would be broken; the program ends with `app_Findings`.
-class app_RuleError : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
@@ -28,3 +23,7 @@ enum app_ExitCode : int
 
 /// The text with every line feed as a blank, for a place that has one line.
 std::string app_OnOneLine(std::string text);
+
+/// A message on one line, its middle left out if it is very long, and the place below it, marked, if it is
+/// given.
+std::string app_Message(const std::string& text, const cmd_Place* place = nullptr);

@@ -26,13 +26,18 @@ using File = std::unique_ptr<std::FILE, Close>;
     throw app_Error(path + ": cannot be " + action + ": " + std::strerror(errno));
 }
 
-void WriteAll(const std::string& path, const std::string& content, const char* mode = "wb")
+/// Writes to an open file and closes it.
+void Write(File file, const std::string& path, const std::string& content)
 {
-    File file(std::fopen(path.c_str(), mode));
     if (!file || std::fwrite(content.data(), 1, content.size(), file.get()) != content.size())
         Raise(path, "written");
     if (std::fclose(file.release()) != 0)
         Raise(path, "written");
+}
+
+void WriteAll(const std::string& path, const std::string& content)
+{
+    Write(File(std::fopen(path.c_str(), "wb")), path, content);
 }
 
 } // namespace
@@ -78,9 +83,16 @@ void app_WriteFile(const std::string& path, const std::string& content)
     }
 }
 
-void app_AppendToFile(const std::string& path, const std::string& content)
+void app_AppendLines(const std::string& path, const std::string& lines)
 {
-    WriteAll(path, content, "ab");
+    File file(std::fopen(path.c_str(), "ab+"));
+    if (!file)
+        Raise(path, "written");
+    const bool isInLine =
+        !lines.empty() && std::fseek(file.get(), -1, SEEK_END) == 0 && std::fgetc(file.get()) != '\n';
+    // Between reading and writing a position must be set; what is appended goes to the end all the same.
+    std::fseek(file.get(), 0, SEEK_END);
+    Write(std::move(file), path, (isInLine ? "\n" : "") + lines);
 }
 
 void app_Print(const std::string& text)
@@ -96,9 +108,9 @@ void app_PrintNow(const std::string& text)
         Raise("standard output", "written");
 }
 
-void app_Warn(const std::string& text)
+void app_Warn(const std::string& text, const cmd_Place* place)
 {
-    std::fprintf(stderr, "vdbattr: warning: %s\n", app_OnOneLine(text).c_str());
+    std::fprintf(stderr, "vdbattr: warning: %s\n", app_Message(text, place).c_str());
 }
 
 bool app_Exists(const std::string& path)

@@ -20,27 +20,21 @@ struct app_Object
 /// Path of a named object, as "amplitudes['ramp']".
 std::string app_PathOf(const std::string& repositoryWord, const std::string& name);
 
-/// Words of the repositories that a model has, in stored order.
-std::vector<std::string> app_RepositoryWords(const ddr_Model& model);
-
 /// The repository of this word. Throws `cls_ValueError` if the model has none.
-const mdl_NamedObjects& app_ConstRepository(const ddr_Model& model, const std::string& word);
 mdl_NamedObjects& app_Repository(ddr_Model& model, const std::string& word);
 
 /// Count of all objects.
 int app_ObjectCount(const ddr_Model& model);
 
-/// Calls `act` with each object of each repository, in order.
-void app_ForEachObject(const ddr_Model& model, const std::function<void(const app_Object&)>& act);
+using app_Visit = std::function<void(const app_Object&)>;
+
+/// Calls `visit` with each object of each repository, in order.
+void app_ForEachObject(const ddr_Model& model, const app_Visit& visit);
+/// The same for the objects of one repository.
+void app_ForEachObjectOf(const ddr_Model& model, const std::string& repositoryWord, const app_Visit& visit);
 
 /// The object of the model that the path begins with. Throws `cmd_Error` if it is not there.
 app_Object app_FindObject(const ddr_Model& model, const cmd_Path& path);
-
-/// The description of an object's actual class.
-const cls_Description& app_ActualClass(const cls_Description& root, const void* object);
-
-/// The class that an object's value names; null for a value that is no object.
-const cls_Description* app_ClassOfValue(const cls_Value& value);
 
 /// Puts the object that `value` describes into the model. Throws `cls_ValueError`, also if the name is taken.
 void app_InsertValue(ddr_Model& model, const std::string& repositoryWord, const std::string& name,

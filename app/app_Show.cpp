@@ -5,6 +5,8 @@
 #include "app_Table.h"
 #include "app_View.h"
 #include "cls_Unset.h"
+#include "cmd_Attributes.h"
+#include "cmd_Locate.h"
 
 #include <fmt/format.h>
 
@@ -45,7 +47,7 @@ std::string DigestOf(const cls_Attribute& attribute, const cls_Value& value)
 {
     if (value.IsNull() || IsUnset(value))
         return "";
-    if (value.AsArray() || (value.AsObject() && !app_ClassOfValue(value)))
+    if (value.AsArray() || (value.AsObject() && !cmd_ClassOfValue(value)))
         return SizeText(value);
     if (value.AsObject())
         return attribute.word;
@@ -78,17 +80,6 @@ std::string SparkOf(const app_Object& object)
     return curve ? app_Sparkline(*curve, sparkWidth) : "";
 }
 
-template <class Act>
-void ForEachObjectOf(const ddr_Model& model, const std::string& word, Act act)
-{
-    const mdl_NamedObjects& repository = app_ConstRepository(model, word);
-    for (const std::string& name : repository.ObjectNames())
-    {
-        if (const void* object = repository.ConstObject(name))
-            act(app_Object{word, name, app_ActualClass(repository.ObjectRoot(), object), object});
-    }
-}
-
 } // namespace
 
 std::string app_ShortText(const cls_Value& value)
@@ -104,7 +95,7 @@ std::string app_ShortText(const cls_Value& value)
 
 std::string app_DigestText(const cls_Value& value)
 {
-    if (const cls_Description* description = app_ClassOfValue(value))
+    if (const cls_Description* description = cmd_ClassOfValue(value))
         return app_LabelOf(*description);
     return value.AsArray() || value.AsObject() ? SizeText(value) : app_ShortText(value);
 }
@@ -112,10 +103,10 @@ std::string app_DigestText(const cls_Value& value)
 std::string app_ShowModel(const ddr_Model& model, const std::string& source)
 {
     std::string text = fmt::format("{}: {}\n", source, app_Count(app_ObjectCount(model), "object"));
-    for (const std::string& word : app_RepositoryWords(model))
+    for (const std::string& word : cmd_RepositoryWords(model))
     {
         app_Table table({Left, Left, Left, Left});
-        ForEachObjectOf(
+        app_ForEachObjectOf(
             model, word,
             [&table](const app_Object& object) {
                 table.Add({object.name, app_LabelOf(object.description), SparkOf(object), Digest(object)});
@@ -130,17 +121,18 @@ std::string app_ShowModel(const ddr_Model& model, const std::string& source)
 cls_Value app_ValueOfList(const ddr_Model& model)
 {
     cls_Value::Object repositories;
-    for (const std::string& word : app_RepositoryWords(model))
+    for (const std::string& word : cmd_RepositoryWords(model))
     {
         cls_Value::Array objects;
-        ForEachObjectOf(model, word,
-                        [&objects](const app_Object& object)
-                        {
-                            objects.push_back(cls_Value::Object{{"name", object.name},
-                                                                {"class", object.description.Name()},
-                                                                {"label", app_LabelOf(object.description)},
-                                                                {"digest", Digest(object)}});
-                        });
+        app_ForEachObjectOf(model, word,
+                            [&objects](const app_Object& object)
+                            {
+                                objects.push_back(
+                                    cls_Value::Object{{"name", object.name},
+                                                      {"class", object.description.Name()},
+                                                      {"label", app_LabelOf(object.description)},
+                                                      {"digest", Digest(object)}});
+                            });
         repositories.emplace_back(word, std::move(objects));
     }
     return repositories;
@@ -192,7 +184,7 @@ std::string AttributesText(const cls_Description& description, const cls_Value& 
 
 std::string ValueText(const cls_Value& value, std::size_t indent)
 {
-    if (const cls_Description* description = app_ClassOfValue(value))
+    if (const cls_Description* description = cmd_ClassOfValue(value))
         return app_LabelOf(*description) + '\n' + AttributesText(*description, value, indent);
     const cls_Value::Array* const elements = value.AsArray();
     if (!elements)

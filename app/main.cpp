@@ -4,7 +4,10 @@
 #include "app_Error.h"
 #include "app_File.h"
 #include "cls_Value.h"
+#include "cmd_Error.h"
+#include "cmd_Rules.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <new>
 
@@ -20,16 +23,18 @@ constexpr const char* about =
 
 constexpr const char* farewell = "`vdbattr COMMAND --help` tells more of a command.";
 
-int Fail(const std::string& message, app_ExitCode exitCode = app_Unusable)
+int Fail(const std::string& message, app_ExitCode exitCode = app_Unusable, const cmd_Place* place = nullptr)
 {
-    std::fprintf(stderr, "vdbattr: %s\n", app_OnOneLine(message).c_str());
+    std::fprintf(stderr, "vdbattr: %s\n", app_Message(message, place).c_str());
     return exitCode;
 }
 
-bool HasCommand(CLI::App& parser, const std::string& name)
+std::vector<std::string> CommandsOf(CLI::App& parser)
 {
-    return !parser.get_subcommands([&name](CLI::App* command) { return command->get_name() == name; })
-                .empty();
+    std::vector<std::string> names;
+    for (const CLI::App* command : parser.get_subcommands([](CLI::App*) { return true; }))
+        names.push_back(command->get_name());
+    return names;
 }
 
 int Run(int argc, char** argv)
@@ -40,8 +45,11 @@ int Run(int argc, char** argv)
     parser.require_subcommand(1);
     int exitCode = app_Fine;
     app_AddCommands(parser, exitCode);
-    if (argc > 1 && argv[1][0] != '-' && !HasCommand(parser, argv[1]))
-        return Fail(std::string("there is no command ") + argv[1] + "; `vdbattr --help` lists them");
+    const std::vector<std::string> commands = CommandsOf(parser);
+    const bool isOption = argc < 2 || argv[1][0] == '-';
+    if (!isOption && std::find(commands.begin(), commands.end(), argv[1]) == commands.end())
+        return Fail(std::string("there is no command ") + argv[1] + ", " +
+                    cmd_ExpectedOneOf(argv[1], commands));
     try
     {
         parser.parse(argc, argv);
@@ -80,9 +88,13 @@ int main(int argc, char** argv)
         const Library library;
         return Run(argc, argv);
     }
-    catch (const app_RuleError& error)
+    catch (const cmd_RuleError& error)
     {
         return Fail(error.what(), app_Findings);
+    }
+    catch (const cmd_Error& error)
+    {
+        return Fail(error.what(), app_Unusable, error.Place());
     }
     catch (const std::bad_alloc&)
     {

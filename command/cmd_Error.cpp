@@ -1,9 +1,21 @@
 #include "cmd_Error.h"
 
+#include "cmd_Utf8.h"
+#include "cmd_Value.h"
+
 #include <algorithm>
 
 cmd_Error::cmd_Error(const std::string& message) noexcept
     : nex_CmdException<atr_String, 2>(atr_raw(message.c_str(), 0), 0)
+{}
+
+cmd_Error::cmd_Error(const std::string& message, cmd_Place place)
+    : nex_CmdException<atr_String, 2>(atr_raw(message.c_str(), 0), 0),
+      place(std::make_shared<const cmd_Place>(std::move(place)))
+{}
+
+cmd_Error::cmd_Error(const std::string& where, const cmd_Error& error)
+    : nex_CmdException<atr_String, 2>(atr_raw((where + error.what()).c_str(), 0), 0), place(error.place)
 {}
 
 cmd_Error::~cmd_Error() = default;
@@ -51,10 +63,56 @@ std::size_t Distance(const std::string& left, const std::string& right)
     return row[right.size()];
 }
 
+/// One character as it is printed: what Python would write as an escape, and a null, is "?".
+std::string Printed(const std::string& character)
+{
+    const bool isAscii = character.size() == 1 && character[0] >= ' ' && character[0] <= '~';
+    const bool isEscaped = character[0] == '\0' || cmd_QuotedText(character).find('\\') != std::string::npos;
+    return isAscii || !isEscaped ? character : "?";
+}
+
+constexpr std::size_t mostBefore = 60;
+constexpr std::size_t mostMarked = 40;
+constexpr std::size_t mostBehind = 20;
+
 constexpr std::size_t longestWord = 100;
 constexpr std::size_t mostListed = 24;
 
 } // namespace
+
+std::string cmd_Marked(const cmd_Place& place)
+{
+    const std::string& text = place.text;
+    const std::size_t markedEnd = std::min(place.end, place.begin + mostMarked);
+    std::size_t position = place.begin > mostBefore ? place.begin - mostBefore : 0;
+    while (!cmd_IsCharacterStart(text, position))
+        ++position;
+    std::string shown = position > 0 ? "..." : "";
+    std::string marks(shown.size(), ' ');
+    bool isMarked = false;
+    const auto mark = [&](std::size_t at)
+    {
+        const bool isWithin = at >= place.begin && (at < markedEnd || !isMarked);
+        marks += !isWithin ? ' ' : isMarked ? '~' : '^';
+        isMarked = isMarked || isWithin;
+    };
+    const std::size_t end = std::min(text.size(), std::max(markedEnd, place.begin) + mostBehind);
+    while (position < end)
+    {
+        std::size_t next = position + 1;
+        while (!cmd_IsCharacterStart(text, next))
+            ++next;
+        shown += Printed(text.substr(position, next - position));
+        mark(position);
+        position = next;
+    }
+    if (!isMarked)
+        mark(text.size());
+    if (position < text.size())
+        shown += "...";
+    marks.erase(marks.find_last_not_of(' ') + 1);
+    return shown + '\n' + marks;
+}
 
 std::string cmd_Nearest(const std::string& word, const std::vector<std::string>& candidates)
 {

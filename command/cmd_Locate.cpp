@@ -9,10 +9,18 @@ namespace
 
 using Sort = cmd_Path::Step::Sort;
 
+/// The step of this number, in the path as it is written in full.
+cmd_Place PlaceOf(const cmd_Path& path, std::size_t step)
+{
+    return {path.Text(), path.Text(step).size(), path.Text(step + 1).size()};
+}
+
 [[noreturn]] void RaiseNoRepository(const ddr_Model& model, const std::string& word)
 {
-    throw cmd_Error("model." + word + ": a model has no such repository, " +
-                    cmd_ExpectedOneOf(word, cmd_RepositoryWords(model)));
+    const cmd_Path path = cmd_Path().WithWord(word);
+    throw cmd_Error(path.Text() + ": a model has no such repository, " +
+                        cmd_ExpectedOneOf(word, cmd_RepositoryWords(model)),
+                    PlaceOf(path, 0));
 }
 
 std::vector<std::string> QuotedNames(const std::vector<std::string>& names)
@@ -30,7 +38,7 @@ std::vector<std::string> QuotedNames(const std::vector<std::string>& names)
     std::string message = path.Text(2) + ": there is no such object";
     if (!nearest.empty())
         message += "; did you mean " + cmd_QuotedText(nearest) + '?';
-    throw cmd_Error(message);
+    throw cmd_Error(message, PlaceOf(path, 1));
 }
 
 /// Walks from the plain value of an object into it, and knows on the way which attribute it is in.
@@ -70,7 +78,8 @@ private:
 
     [[noreturn]] void Raise(const std::string& expected) const
     {
-        throw cmd_Error(path.Text(count) + ": expected " + expected + ", found " + Script().Summary());
+        throw cmd_Error(path.Text(count) + ": expected " + expected + ", found " + Script().Summary(),
+                        PlaceOf(path, count));
     }
 
     void GoToWord(const std::string& word)
@@ -86,7 +95,8 @@ private:
             for (const cls_Attribute* known : owner->AllAttributes())
                 words.emplace_back(known->word);
             throw cmd_Error(path.Text(count + 1) + ": " + owner->Name() + " has no such word, " +
-                            cmd_ExpectedOneOf(word, words));
+                                cmd_ExpectedOneOf(word, words),
+                            PlaceOf(path, count));
         }
         GoToMember(attribute->field.Name().CString());
     }
@@ -116,7 +126,8 @@ private:
             keys.push_back(name);
         if (!GoToMember(key))
             throw cmd_Error(path.Text(count + 1) + ": there is no such entry, " +
-                            cmd_ExpectedOneOf(cmd_QuotedText(key), QuotedNames(keys)));
+                                cmd_ExpectedOneOf(cmd_QuotedText(key), QuotedNames(keys)),
+                            PlaceOf(path, count));
     }
 
     void GoToPosition(std::size_t position)
@@ -126,9 +137,10 @@ private:
             Raise("a sequence");
         if (position >= elements->size())
             throw cmd_Error(path.Text(count + 1) + ": there is no such element, " +
-                            (elements->empty()
-                                 ? "the sequence is empty"
-                                 : "expected a position from 0 to " + std::to_string(elements->size() - 1)));
+                                (elements->empty() ? "the sequence is empty"
+                                                   : "expected a position from 0 to " +
+                                                         std::to_string(elements->size() - 1)),
+                            PlaceOf(path, count));
         value = &(*elements)[position];
     }
 

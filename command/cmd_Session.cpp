@@ -140,14 +140,14 @@ void cmd_Session::MakeInModel(const std::string& constructor, const cmd_Argument
     const std::string name = TakeName(description, settings);
     cls_AnyObject object(description, description.Info().create());
     Apply(object, settings);
-    Check(object);
+    const cmd_Path path = cmd_Path::OfObject(home.repositoryWord, name);
+    Check(path, object);
     settings.insert(settings.begin(), {nameWord, name});
     Commit({constructor, CallLine(cmd_Path(), constructor, settings)},
            [&](ddr_Model& model)
            {
                if (!cmd_Repository(model, home.repositoryWord).InsertObject(name, std::move(object)))
-                   throw cmd_Error(cmd_Path::OfObject(home.repositoryWord, name).Text() +
-                                   ": the repository does not take the object");
+                   throw cmd_Error(path.Text() + ": the repository does not take the object");
            });
 }
 
@@ -194,7 +194,7 @@ void cmd_Session::SetValues(const cmd_Path& path, const cmd_Arguments& arguments
         Apply(copy, settings);
     else
         ApplyWithin(copy, path, settings);
-    Check(copy);
+    Check(path, copy);
     Commit({"setValues", CallLine(path, "setValues", settings)},
            [&](ddr_Model& model)
            {
@@ -307,9 +307,15 @@ void cmd_Session::Tell(const std::string& line) const
         journal(line);
 }
 
-void cmd_Session::Check(const cls_AnyObject& object) const
+void cmd_Session::Check(const cmd_Path& path, const cls_AnyObject& object) const
 {
-    const auto assertValid = object.Description().Info().assertValid;
-    if (checks == Checks::All && assertValid)
-        assertValid(object.Get());
+    if (checks == Checks::None && !warning)
+        return;
+    const std::optional<cmd_BrokenRule> rule = cmd_FindBrokenRule(object.Description(), object.Get());
+    if (!rule)
+        return;
+    const cmd_RuleError broken(path.Text(2), *rule);
+    if (checks == Checks::All)
+        throw broken;
+    warning(broken);
 }

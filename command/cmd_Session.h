@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cmd_Path.h"
+#include "cmd_Rules.h"
 #include "cmd_Value.h"
 #include "ddr_DdbContainer.h"
 
@@ -22,7 +23,7 @@ struct cmd_Step
 /// of the old one, and what throws leaves the model as it was. Each command can be undone, and is told to a
 /// listener as a line of Python.
 ///
-/// A command that cannot be carried out throws `cmd_Error`, and one that breaks a rule `nex_PrimException`.
+/// A command that cannot be carried out throws `cmd_Error`, and one that breaks a rule `cmd_RuleError`.
 class OVR_EXPORT cmd_Session
 {
 public:
@@ -33,7 +34,7 @@ public:
     enum class Checks
     {
         All, ///< A change after which a rule is broken is refused.
-        None ///< Any change is taken.
+        None ///< Any change is taken; the listener to warnings is told of the rule.
     };
 
     /// Begins with an empty model.
@@ -45,6 +46,11 @@ public:
     const ddr_ModelHandle& Model() const { return container.Handle(); }
 
     void SetJournal(Journal listener) { journal = std::move(listener); }
+
+    /// Told of the rules that changes break which are taken all the same.
+    using Warning = std::function<void(const cmd_RuleError& broken)>;
+
+    void SetWarning(Warning listener) { warning = std::move(listener); }
 
     /// Makes an object by its constructor word. At the model, the argument `name` tells under which name it
     /// goes into its repository, where it takes the place of one that has the name; at an object, it becomes
@@ -88,13 +94,15 @@ private:
     void Commit(cmd_Step step, const Change& change);
     void Travel(std::vector<Past>& from, std::vector<Past>& to, const char* command);
     void Tell(const std::string& line) const;
-    void Check(const cls_AnyObject& object) const;
+    /// By the rules of its class, the object to which the first two steps of the path lead.
+    void Check(const cmd_Path& path, const cls_AnyObject& object) const;
     void MakeInModel(const std::string& constructor, const cmd_Arguments& arguments);
     void MakeInObject(const cmd_Path& owner, const std::string& constructor, const cmd_Arguments& arguments);
 
     ddr_DdbContainer container;
     Checks checks;
     Journal journal;
+    Warning warning;
     std::vector<Past> done;
     std::vector<Past> undone;
 };

@@ -120,7 +120,7 @@ private:
         std::size_t column = 1;
         for (std::size_t i = 0; i < std::min(position, text.size()); ++i)
             column += cmd_IsCharacterStart(text, i);
-        throw cmd_Error("column " + std::to_string(column) + ": " + fault);
+        throw cmd_Error("column " + std::to_string(column) + ": " + fault, {text, position, position});
     }
 
     /// What stands here, in short.

@@ -11,6 +11,7 @@
 #include <thread>
 
 #include <fcntl.h>
+#include <sqlite3.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -94,6 +95,16 @@ std::string ScratchFolder::Write(const std::string& name, const std::string& con
 {
     std::ofstream(Path(name), std::ios::binary) << content;
     return Path(name);
+}
+
+void RunSql(const std::string& store, const std::string& sql)
+{
+    sqlite3* connection = nullptr;
+    ASSERT_EQ(SQLITE_OK, sqlite3_open(store.c_str(), &connection));
+    char* error = nullptr;
+    EXPECT_EQ(SQLITE_OK, sqlite3_exec(connection, sql.c_str(), nullptr, nullptr, &error)) << error;
+    EXPECT_GT(sqlite3_total_changes(connection) + (sql.find("UPDATE") == std::string::npos), 0) << sql;
+    sqlite3_close(connection);
 }
 
 std::string ContentOf(const std::string& path)

@@ -36,6 +36,9 @@ private:
     std::string folder;
 };
 
+/// Runs SQL on a store, as a hand with the sqlite3 program would. An UPDATE must change something.
+void RunSql(const std::string& store, const std::string& sql);
+
 /// The content of a file.
 std::string ContentOf(const std::string& path);
 

@@ -24,7 +24,7 @@ TEST(Model, RefusesASecondObjectOfAName)
     }
     catch (const cls_ValueError& error)
     {
-        EXPECT_EQ("amplitudes['a\\'b']", error.Path());
+        EXPECT_EQ("amplitudes[\"a'b\"]", error.Path());
         EXPECT_EQ("the name is taken by another object", error.Message());
     }
     EXPECT_EQ(1, app_ObjectCount(model));

@@ -50,9 +50,9 @@ protected:
         {
             Run(line);
         }
-        catch (const nex_PrimException<atr_String, 1>& exception)
+        catch (const nex_PrimException<atr_String, 1>& rule)
         {
-            return exception.what();
+            return rule.what();
         }
         return "nothing thrown";
     }
@@ -333,15 +333,18 @@ TEST_F(Session, ChecksAChangeBeforeItIsMade)
         const char* rule;
     } rows[] = {
         {"model.amplitudes['ramp'].smooth = 0.6",
-         "Invalid smoothing parameter, expected a value between 0.0 and 0.5."},
+         "model.amplitudes['ramp']: kamC:2 Invalid smoothing parameter, expected a value between 0.0 and "
+         "0.5."},
         {"model.amplitudes['ramp'].setValues(timeSpan=TOTAL, data=((1.0, 0.0), (0.0, 1.0)))",
-         "Invalid time values, expected monotonically increasing numbers."},
+         "model.amplitudes['ramp']: kamC:0 Invalid time values, expected monotonically increasing "
+         "numbers."},
         {"model.amplitudes['quake'].baselineCorrection.intervals = (1.0, 1.0)",
-         "Invalid baseline correction values, expected non-negative\nmonotonically increasing numbers."},
+         "model.amplitudes['quake']: kamC:19 Invalid baseline correction values, expected "
+         "non-negative\nmonotonically increasing numbers."},
         {"model.TabularAmplitude(name='new')",
-         "The Time-Amplitude table should have at least two rows of data."},
+         "model.amplitudes['new']: kamC:12 The Time-Amplitude table should have at least two rows of data."},
         {"model.TabularAmplitude(name='ramp')",
-         "The Time-Amplitude table should have at least two rows of data."},
+         "model.amplitudes['ramp']: kamC:12 The Time-Amplitude table should have at least two rows of data."},
     };
     for (const auto& row : rows)
         EXPECT_EQ(row.rule, BrokenRule(row.line)) << row.line;
@@ -352,11 +355,68 @@ TEST_F(Session, ChecksAChangeBeforeItIsMade)
     EXPECT_EQ(2u, journal.size());
 }
 
-TEST_F(Session, TakesAnythingWithoutChecks)
+TEST_F(Session, TellsTheRuleThatABrokenOneWasBrokenBy)
+{
+    Run(makeRamp);
+    try
+    {
+        Run("model.amplitudes['ramp'].smooth = 0.6");
+        FAIL();
+    }
+    catch (const cmd_RuleError& error)
+    {
+        EXPECT_EQ("kamC:2", error.Rule().id);
+        EXPECT_EQ(2, error.Rule().code);
+        EXPECT_EQ("Invalid smoothing parameter, expected a value between 0.0 and 0.5.", error.Rule().message);
+    }
+}
+
+TEST_F(Session, TakesAnythingWithoutChecksAndWarns)
 {
     cmd_Session unchecked(cmd_Session::Checks::None);
     cmd_Run(unchecked, "model.TabularAmplitude(name='a', smooth=7.0)");
     EXPECT_EQ("7.0", cmd_Run(unchecked, "model.amplitudes['a'].smooth"));
+    std::vector<std::string> warnings;
+    unchecked.SetWarning([&warnings](const cmd_RuleError& broken) { warnings.push_back(broken.Rule().id); });
+    cmd_Run(unchecked, "model.TabularAmplitude(name='b')");
+    cmd_Run(unchecked, "model.amplitudes['a'].smooth = 8.0");
+    cmd_Run(unchecked, "model.amplitudes['a'].setValues(smooth=0.25, data=((0.0, 0.0), (1.0, 1.0)))");
+    cmd_Run(unchecked, "model.amplitudes['a'].smooth = 9.0");
+    EXPECT_EQ((std::vector<std::string>{"kamC:12", "kamC:2", "kamC:2"}), warnings);
+}
+
+TEST_F(Session, PointsAtTheStepThatLeadsNowhere)
+{
+    Run(makeRamp);
+    const struct
+    {
+        const char* line;
+        const char* marked;
+    } rows[] = {
+        {"model.materials['a'].x", "model.materials\n     ^~~~~~~~~~"},
+        {"model.amplitudes['rmp'].data", "model.amplitudes['rmp'].data\n                ^~~~~~~"},
+        {"model.amplitudes['ramp'].dta[1]", "model.amplitudes['ramp'].dta[1]\n                        ^~~~"},
+        {"model.amplitudes['ramp'].data[7][0]",
+         "model.amplitudes['ramp'].data[7][0]\n                             ^~~"},
+        {"model.amplitudes['ramp'].data.x",
+         "model.amplitudes['ramp'].data.x\n                             ^~"},
+        {"model.amplitudes['ramp", "model.amplitudes['ramp\n                      ^"},
+        {"model.amplitudes['ramp'].smooth = (1, 2",
+         "model.amplitudes['ramp'].smooth = (1, 2\n                                       ^"},
+    };
+    for (const auto& row : rows)
+    {
+        try
+        {
+            Run(row.line);
+            ADD_FAILURE() << row.line;
+        }
+        catch (const cmd_Error& error)
+        {
+            ASSERT_NE(nullptr, error.Place()) << row.line;
+            EXPECT_EQ(row.marked, cmd_Marked(*error.Place()));
+        }
+    }
 }
 
 TEST_F(Session, AChangeKeepsTheIdentityOfItsObject)

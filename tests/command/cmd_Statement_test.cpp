@@ -151,6 +151,33 @@ TEST(Statement, NestsOnlySoDeep)
               Refusal([] { cmd_ParseValue(std::string(100000, '[')); }));
 }
 
+TEST(Place, IsMarkedInWhatCanBeShownOfItsText)
+{
+    const std::string sixty(60, 'a');
+    const struct
+    {
+        cmd_Place place;
+        std::string marked;
+    } rows[] = {
+        {{"", 0, 0}, "\n^"},
+        {{"abc", 0, 0}, "abc\n^"},
+        {{"abc", 1, 3}, "abc\n ^~"},
+        {{"abc", 3, 3}, "abc\n   ^"},
+        {{"Größe 1", 6, 7}, "Größe 1\n    ^"},
+        {{"a\tb\xff\x1b"
+          "c",
+          5, 6},
+         "a?b??c\n     ^"},
+        {{std::string("a\0b", 3), 1, 1}, "a?b\n ^"},
+        {{"a'\\\"", 1, 4}, "a'\\\"\n ^~~"},
+        {{"xy" + sixty + "b", 62, 63}, "..." + sixty + "b\n" + std::string(63, ' ') + '^'},
+        {{"b" + sixty, 0, 1}, "b" + std::string(20, 'a') + "...\n^"},
+        {{sixty, 0, 60}, sixty + "\n^" + std::string(39, '~')},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(row.marked, cmd_Marked(row.place));
+}
+
 TEST(Path, MayLeaveTheModelOut)
 {
     EXPECT_EQ("model.amplitudes['a'].data", cmd_ParsePath("amplitudes['a'].data").Text());

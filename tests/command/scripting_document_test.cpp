@@ -1,35 +1,15 @@
+#include "DocumentBlocks.h"
 #include "LibraryEnvironment.h"
 #include "cmd_Script.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 namespace
 {
 
-std::string Joined(const std::vector<std::string>& lines)
-{
-    std::string text;
-    for (const std::string& line : lines)
-        text += line + '\n';
-    return text;
-}
-
-/// The lines of the document's blocks in this language, in order.
 std::vector<std::string> LinesOf(const std::string& language)
 {
-    std::ifstream document(OVR_SOURCE_DIR "/docs/scripting.md");
-    std::vector<std::string> lines;
-    bool isInside = false;
-    for (std::string line; std::getline(document, line);)
-    {
-        if (line.rfind("```", 0) == 0)
-            isInside = !isInside && line == "```" + language;
-        else if (isInside)
-            lines.push_back(line);
-    }
-    return lines;
+    return LinesOfBlocks(OVR_SOURCE_DIR "/docs/scripting.md", language);
 }
 
 std::string Answer(cmd_Session& session, const std::string& command)
@@ -62,8 +42,8 @@ TEST(ScriptingDocument, ItsExamplesDoWhatTheySay)
             transcript.push_back(answer);
     }
     EXPECT_GT(lines.size(), 50u);
-    EXPECT_EQ(Joined(lines), Joined(transcript));
-    EXPECT_EQ(Joined(LinesOf("journal")), Joined(journal));
+    EXPECT_EQ(JoinedLines(lines), JoinedLines(transcript));
+    EXPECT_EQ(JoinedLines(LinesOf("journal")), JoinedLines(journal));
 }
 
 } // namespace

@@ -153,6 +153,34 @@ TEST_F(Repositories, RemovalTellsWhetherTheNameWasThere)
     EXPECT_EQ(named.Size(), 0);
 }
 
+TEST_F(Repositories, EveryChangeTakesTheTimeAndItsNameIntoTheDelta)
+{
+    const struct
+    {
+        const char* what;
+        std::function<void(kamC_AmplitudeContainer&)> change;
+        const char* recorded;
+    } rows[] = {
+        {"insert", [](auto& named) { named.Insert("B", NewDecay(1.0)); }, "(\"Insert\", \"B\", -99)\n"},
+        {"replace", [](auto& named) { named.Insert("B", NewDecay(2.0)); },
+         "(\"Remove\", \"B\")\n(\"Insert\", \"B\", -99)\n"},
+        {"access", [](auto& named) { named.Get("B"); }, "(\"Modify\", \"B\")\n"},
+        {"remove", [](auto& named) { named.Remove("B"); }, "(\"Remove\", \"B\")\n"},
+        {"update", [](auto& named) { named.UpdateTimeStamp("B"); }, ""},
+    };
+    kamC_AmplitudeContainer named;
+    for (const auto& row : rows)
+    {
+        SCOPED_TRACE(row.what);
+        const double before = named.TimeStamp();
+        Changes();
+        row.change(named);
+        EXPECT_GT(named.TimeStamp(), before);
+        EXPECT_EQ(Changes(), row.recorded);
+        EXPECT_EQ(TextOf(named.DeltaList()), "('B',)");
+    }
+}
+
 TEST_F(Repositories, TheDeltaGrowsOnlyAndStaysInOrder)
 {
     kamC_AmplitudeContainer named;
