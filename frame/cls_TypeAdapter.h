@@ -36,4 +36,10 @@ public:
     }
 
     bool IsConcrete() const override { return true; }
+
+    bool DBWriteDefault(const cls_WriteVisitor& visitor) const override
+    {
+        T().DBWrite(visitor);
+        return true;
+    }
 };

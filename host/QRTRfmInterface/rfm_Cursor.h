@@ -18,6 +18,13 @@ public:
     /// Goes to the next row; false if there is none. The cursor must stand on a row.
     bool Next();
 
+    /// Leaves the row, so that the next search sees what has changed since.
+    void Leave() noexcept
+    {
+        hasRow = false;
+        statement.Reset();
+    }
+
     /// Whether `Seek(key)` needs no search.
     bool IsNext(std::int64_t key) const { return hasRow && key == rowKey + 1; }
 

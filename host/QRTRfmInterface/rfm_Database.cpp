@@ -409,6 +409,7 @@ void rfm_Database::AttachForConversion(const rfm_Database& old)
     Execute("PRAGMA scratch.page_size = " + std::to_string(pageSize));
     Execute("PRAGMA old.cache_size = 1000");
     Execute("PRAGMA scratch.cache_size = 1000");
+    Execute(rfm_Elements::SqlToCreate(rfm_ScratchSchema));
     rfm_RowCopy::AddFunction(connection, &rowCopy);
 }
 
@@ -530,6 +531,29 @@ bool rfm_Database::HasTable(const cow_String& ownTable)
         RequireElements();
     else
         RequireTable(ownTable, false);
+    return true;
+}
+
+bool rfm_Database::HasName(const cow_String& table)
+{
+    rfm_Statement statement(*this, "SELECT 1 FROM sqlite_schema WHERE name = ?", table);
+    statement.Bind(1, rfm_Cell::Text(table.View()));
+    return statement.Step();
+}
+
+bool rfm_Database::HasElements()
+{
+    if (!HasName(rfm_Elements::name))
+        return false;
+    RequireElements();
+    return true;
+}
+
+bool rfm_Database::HasArrays()
+{
+    if (!HasName(ArrayTable()))
+        return false;
+    RequireTable(ArrayTable(), false);
     return true;
 }
 

@@ -65,6 +65,10 @@ public:
     bool HasTable(const cow_String& ownTable);
     /// Throws unless the store has its table of elements in the right form.
     void RequireElements();
+    /// Whether the store has its table of elements, or of arrays, which it needs only when it has any. Throws
+    /// if such a table has another form.
+    bool HasElements();
+    bool HasArrays();
 
     /// Makes the tables of `old`, a store opened for reading, reachable under `rfm_OldSchema`, for reading
     /// alone, and opens `rfm_ScratchSchema`. This database must be a new one.
@@ -117,6 +121,7 @@ private:
     std::vector<rfm_TableInfo> ReadCatalogue();
     std::vector<rfm_Column> ReadColumns(const cow_String& table);
     void RequireTable(const cow_String& table, bool isElements);
+    bool HasName(const cow_String& table);
     void Execute(const std::string& sql);
 
     cow_String path;

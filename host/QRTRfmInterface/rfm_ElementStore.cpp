@@ -19,8 +19,8 @@ std::int64_t CheckOf(unsigned classId, std::int64_t oid, std::int64_t position, 
 }
 } // namespace
 
-rfm_ElementInserter::rfm_ElementInserter(rfm_Database& database)
-    : batch(database, rfm_Elements::name, rfm_Elements::ColumnCount)
+rfm_ElementInserter::rfm_ElementInserter(rfm_Database& database, const cow_String& schema)
+    : batch(database, rfm_Elements::Form(schema))
 {}
 
 void rfm_ElementInserter::Insert(unsigned classId, std::int64_t oid, std::int64_t position,
@@ -44,8 +44,8 @@ void rfm_ElementInserter::Insert(unsigned classId, std::int64_t oid, std::int64_
     batch.Add(row);
 }
 
-rfm_ElementCursor::rfm_ElementCursor(rfm_Database& database)
-    : database(database), statement(database, rfm_Elements::SqlToRead(), rfm_Elements::name)
+rfm_ElementCursor::rfm_ElementCursor(rfm_Database& database, const cow_String& schema)
+    : database(database), statement(database, rfm_Elements::SqlToRead(schema), rfm_Elements::name)
 {}
 
 void rfm_ElementCursor::Open(unsigned newClassId, std::int64_t newOid)

@@ -16,7 +16,8 @@ struct rfm_Element
 class OVR_EXPORT rfm_ElementInserter
 {
 public:
-    explicit rfm_ElementInserter(rfm_Database& database);
+    /// `schema` as for `rfm_TableForm`.
+    explicit rfm_ElementInserter(rfm_Database& database, const cow_String& schema = cow_String());
 
     void Insert(unsigned classId, std::int64_t oid, std::int64_t position, const rfm_Element& element);
     /// The same with a check number that is given: a null cell for an element without one.
@@ -33,7 +34,7 @@ private:
 class OVR_EXPORT rfm_ElementCursor
 {
 public:
-    explicit rfm_ElementCursor(rfm_Database& database);
+    explicit rfm_ElementCursor(rfm_Database& database, const cow_String& schema = cow_String());
 
     void Open(unsigned classId, std::int64_t oid);
     /// Goes to the next element; false if there is none. The key and value of `element` stay until the cursor

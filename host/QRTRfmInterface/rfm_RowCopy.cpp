@@ -54,12 +54,6 @@ bool Fits(const rfm_Cell& cell, rfm_ColumnKind kind)
 }
 } // namespace
 
-bool rfm_ReferenceColumn::HasUnset() const
-{
-    return std::any_of(ranges.begin(), ranges.end(),
-                       [](const Range& range) { return range.classId == rfm_UnsetReference; });
-}
-
 void rfm_ReferenceColumn::NoteOther(std::int64_t classId, std::int64_t oid)
 {
     const auto found = std::find_if(ranges.begin(), ranges.end(),
@@ -71,10 +65,13 @@ void rfm_ReferenceColumn::NoteOther(std::int64_t classId, std::int64_t oid)
         *found = {classId, std::min(found->low, oid), std::max(found->high, oid)};
 }
 
-rfm_RowCopy::rfm_RowCopy(rfm_Database& database, Plan newPlan, std::vector<rfm_ReferenceColumn>& references)
+rfm_RowCopy::rfm_RowCopy(rfm_Database& database, Plan newPlan, std::vector<rfm_ReferenceColumn>& references,
+                         rfm_RowNumbers& numbers)
     : database(database),
       plan(std::move(newPlan)),
       references(references),
+      numbers(numbers),
+      keepsOrder(KeepsOrder()),
       source(plan.from.columns.size()),
       target(plan.to.columns.size())
 {}
@@ -83,6 +80,19 @@ void rfm_RowCopy::AddFunction(sqlite3* connection, rfm_RowCopy** place)
 {
     sqlite3_create_function_v2(connection, functionName, -1, SQLITE_UTF8 | SQLITE_DIRECTONLY, place, CopyRow,
                                nullptr, nullptr, nullptr);
+}
+
+/// Whether a row whose cells stay has the check number of its source.
+bool rfm_RowCopy::KeepsOrder() const
+{
+    if (plan.from.checkSeed != plan.to.checkSeed || plan.from.columns.size() != plan.to.columns.size())
+        return false;
+    for (std::size_t i = 0; i < plan.columns.size(); ++i)
+    {
+        if (plan.columns[i].source != static_cast<int>(i))
+            return false;
+    }
+    return true;
 }
 
 void rfm_RowCopy::Run(const std::function<void(std::int64_t)>& newProgress)
@@ -147,7 +157,10 @@ void rfm_RowCopy::BindParameters(rfm_Statement& statement) const
 void rfm_RowCopy::RunAsOne()
 {
     int parameter = 1;
-    std::string sql = "INSERT INTO " + plan.to.SqlName() + " SELECT " + rfm_Quoted(plan.from.keyColumn);
+    std::string sql = "INSERT INTO " + plan.to.SqlName() + " (" + rfm_Quoted(plan.to.keyColumn);
+    for (const rfm_Column& column : plan.to.columns)
+        sql += "," + rfm_Quoted(column.name);
+    sql += "," + rfm_Quoted(rfm_CheckColumn) + ") SELECT " + rfm_Quoted(plan.from.keyColumn);
     for (std::size_t i = 0; i < plan.columns.size(); ++i)
         sql += "," + SqlOfColumn(i, parameter);
     sql += std::string(",") + functionName + "(" + SqlOfSourceColumns() + ") FROM " + plan.from.SqlName() +
@@ -214,56 +227,72 @@ void rfm_RowCopy::CopyRow(sqlite3_context* context, int count, sqlite3_value** a
 
 std::int64_t rfm_RowCopy::Convert(std::int64_t oid, const rfm_Cell& check)
 {
-    if (!check.IsNull())
+    rfm_Check expected(plan.from.checkSeed, oid);
+    if (!check.IsNull() || keepsOrder)
     {
-        rfm_Check expected(plan.from.checkSeed, oid);
         for (const rfm_Cell& cell : source)
             expected.Add(cell);
-        if (!check.Is(rfm_CellKind::Integer) || check.integer != expected.Number())
+        if (!check.IsNull() && (!check.Is(rfm_CellKind::Integer) || check.integer != expected.Number()))
             RaiseDamaged(oid);
     }
-    rfm_Check made(plan.to.checkSeed, oid);
+    bool isSame = keepsOrder;
     for (std::size_t i = 0; i < target.size(); ++i)
-    {
-        target[i] = CellOf(i, oid);
-        made.Add(target[i]);
-    }
+        target[i] = CellOf(i, oid, isSame);
     for (rfm_ReferenceColumn& reference : references)
         reference.Note(target.data());
-    CountRow();
+    CountRow(oid);
+    if (isSame)
+        return expected.Number();
+    rfm_Check made(plan.to.checkSeed, oid);
+    for (const rfm_Cell& cell : target)
+        made.Add(cell);
     return made.Number();
 }
 
 /// What the column's expression in SQL gives as well.
-rfm_Cell rfm_RowCopy::CellOf(std::size_t position, std::int64_t oid) const
+rfm_Cell rfm_RowCopy::CellOf(std::size_t position, std::int64_t oid, bool& isSame) const
 {
     const rfm_CopyColumn& column = plan.columns[position];
-    if (column.source < 0)
-        return column.fallback;
-    rfm_Cell cell = source[static_cast<std::size_t>(column.source)];
     const rfm_ColumnKind kind = plan.to.columns[position].kind;
+    rfm_Cell cell = column.source < 0 ? column.fallback : source[static_cast<std::size_t>(column.source)];
     if (cell.IsNull())
-        return column.use == rfm_CopyColumn::Use::Scalar ? column.fallback : cell;
-    if (column.use == rfm_CopyColumn::Use::ClassId && cell.Is(rfm_CellKind::Integer))
     {
-        if (cell.integer == rfm_UnsetReference)
-            return column.fallback;
+        if (column.use != rfm_CopyColumn::Use::Scalar)
+            return cell;
+        cell = column.fallback;
+        isSame = false;
+    }
+    else if (column.use == rfm_CopyColumn::Use::ClassId && cell.Is(rfm_CellKind::Integer) &&
+             column.source >= 0)
+    {
         const auto change =
             std::find_if(plan.changes.begin(), plan.changes.end(),
                          [&cell](const rfm_ClassIdChange& each) { return each.from == cell.integer; });
         if (change != plan.changes.end())
+        {
             cell.integer = change->to;
+            isSame = false;
+        }
+        else if (cell.integer == rfm_UnsetReference)
+        {
+            isSame = false;
+            return column.fallback;
+        }
     }
     // A column that is declared to hold real numbers makes them of integers.
     if (kind == rfm_ColumnKind::Real && cell.Is(rfm_CellKind::Integer))
+    {
         cell = rfm_Cell::Real(static_cast<double>(cell.integer));
+        isSame = false;
+    }
     if (!Fits(cell, kind)) [[unlikely]]
         RaiseKind(oid, position, cell);
     return cell;
 }
 
-void rfm_RowCopy::CountRow()
+void rfm_RowCopy::CountRow(std::int64_t oid)
 {
+    numbers.Note(oid);
     if (++untoldRows < rowsBetweenReports)
         return;
     (*progress)(untoldRows);
@@ -272,12 +301,13 @@ void rfm_RowCopy::CountRow()
 
 void rfm_RowCopy::RaiseDamaged(std::int64_t oid) const
 {
-    database.Raise("The row does not fit its check number: the file is damaged.", plan.from.name, oid,
-                   rfm_CheckColumn);
+    plan.owner->Raise("The row does not fit its check number: the file is damaged.", plan.from.name, oid,
+                      rfm_CheckColumn);
 }
 
-void rfm_RowCopy::RaiseKind(std::int64_t oid, std::size_t column, const rfm_Cell&) const
+void rfm_RowCopy::RaiseKind(std::int64_t oid, std::size_t column, const rfm_Cell& cell) const
 {
-    database.Raise("The cell holds another kind of value than its column.", plan.from.name, oid,
-                   plan.to.columns[column].name);
+    plan.owner->Raise(cell.IsNull() ? "The cell holds no value."
+                                    : "The cell holds another kind of value than its column.",
+                      plan.from.name, oid, plan.to.columns[column].name);
 }

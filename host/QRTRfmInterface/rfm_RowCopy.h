@@ -59,19 +59,25 @@ public:
     void Note(const rfm_Cell* cells)
     {
         const rfm_Cell& oid = cells[oidCell];
-        const rfm_Cell& id = classCell < 0 ? oid : cells[classCell];
-        if (id.IsNull())
+        if (oid.Is(rfm_CellKind::Integer)) [[likely]]
+            Note(classCell < 0 ? fixedClassId : cells[classCell].integer, oid.integer);
+        else if (classCell < 0 || cells[classCell].IsNull())
             ++nulls;
+        else if (cells[classCell].integer == rfm_UnsetReference)
+            ++unset;
         else
-            Note(classCell < 0 ? fixedClassId : id.integer, oid.IsNull() ? 0 : oid.integer);
+            ++classesAlone;
     }
 
     int ClassCell() const { return classCell; }
     int OidCell() const { return oidCell; }
     const std::vector<Range>& Ranges() const { return ranges; }
+    /// Count of references that are absent.
     std::int64_t Nulls() const { return nulls; }
-    /// Whether `rfm_UnsetReference` was met.
-    bool HasUnset() const;
+    /// Count of references that are still to be made.
+    std::int64_t Unset() const { return unset; }
+    /// Count of references with a class and no row, such as absent elements.
+    std::int64_t ClassesAlone() const { return classesAlone; }
 
 private:
     void Note(std::int64_t classId, std::int64_t oid)
@@ -95,6 +101,25 @@ private:
     std::vector<Range> ranges;
     std::size_t last = 0;
     std::int64_t nulls = 0;
+    std::int64_t unset = 0;
+    std::int64_t classesAlone = 0;
+};
+
+/// The numbers of the rows of a table.
+struct rfm_RowNumbers
+{
+    std::int64_t count = 0;
+    std::int64_t low = 0;
+    std::int64_t high = 0;
+
+    void Note(std::int64_t oid)
+    {
+        low = count == 0 || oid < low ? oid : low;
+        high = count == 0 || oid > high ? oid : high;
+        ++count;
+    }
+
+    bool AreWithoutHoles() const { return count > 0 && high - low == count - 1; }
 };
 
 /// Copies the rows of one table into another of other columns, within one statement where that can be. Each
@@ -108,6 +133,7 @@ public:
 
     struct Plan
     {
+        const rfm_Database* owner; ///< the store that is named where a row is damaged
         rfm_TableForm from;
         rfm_TableForm to;
         std::vector<rfm_CopyColumn> columns; ///< one for each of `to`
@@ -116,8 +142,10 @@ public:
         std::vector<rfm_TableForm> coveredBy;
     };
 
-    /// `references` take the references of the new rows, and may be shared by several copies.
-    rfm_RowCopy(rfm_Database& database, Plan plan, std::vector<rfm_ReferenceColumn>& references);
+    /// `references` take the references of the new rows, and `numbers` their numbers; they may be shared by
+    /// several copies.
+    rfm_RowCopy(rfm_Database& database, Plan plan, std::vector<rfm_ReferenceColumn>& references,
+                rfm_RowNumbers& numbers);
     rfm_RowCopy(const rfm_RowCopy&) = delete;
     rfm_RowCopy& operator=(const rfm_RowCopy&) = delete;
 
@@ -131,6 +159,7 @@ private:
     static void CopyRow(sqlite3_context* context, int count, sqlite3_value** arguments);
 
     bool FitsOneStatement() const;
+    bool KeepsOrder() const;
     std::string SqlOfColumn(std::size_t column, int& parameter) const;
     std::string SqlOfConditions() const;
     std::string SqlOfSourceColumns() const;
@@ -139,14 +168,16 @@ private:
     void RunRowByRow();
     /// Makes the new row of a source row, and returns its check number.
     std::int64_t Convert(std::int64_t oid, const rfm_Cell& check);
-    rfm_Cell CellOf(std::size_t column, std::int64_t oid) const;
-    void CountRow();
+    rfm_Cell CellOf(std::size_t column, std::int64_t oid, bool& isSame) const;
+    void CountRow(std::int64_t oid);
     [[noreturn]] void RaiseDamaged(std::int64_t oid) const;
     [[noreturn]] void RaiseKind(std::int64_t oid, std::size_t column, const rfm_Cell& cell) const;
 
     rfm_Database& database;
     Plan plan;
     std::vector<rfm_ReferenceColumn>& references;
+    rfm_RowNumbers& numbers;
+    bool keepsOrder;
     const std::function<void(std::int64_t)>* progress = nullptr;
     std::vector<rfm_Cell> source;
     std::vector<rfm_Cell> target;

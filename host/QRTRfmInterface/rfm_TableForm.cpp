@@ -95,17 +95,33 @@ std::string rfm_TableForm::SqlToRead() const
 const char* const rfm_Elements::columns[ColumnCount] = {
     "ClassID", "OID", "Position", "Key", "Value", "Target#ClassID", "Target#OID", rfm_CheckColumn};
 
-std::string rfm_Elements::SqlToCreate()
+std::string rfm_Elements::SqlToCreate(const cow_String& schema)
 {
-    return "CREATE TABLE \"rom_Element\" (\"ClassID\" INTEGER, \"OID\" INTEGER, \"Position\" INTEGER, "
+    return "CREATE TABLE " + Form(schema).SqlName() +
+           " (\"ClassID\" INTEGER, \"OID\" INTEGER, \"Position\" INTEGER, "
            "\"Key\", \"Value\", \"Target#ClassID\" INTEGER, \"Target#OID\" INTEGER, \"##Check\" INTEGER, "
            "PRIMARY KEY(\"ClassID\", \"OID\", \"Position\")) WITHOUT ROWID";
 }
 
-std::string rfm_Elements::SqlToRead()
+rfm_TableForm rfm_Elements::Form(const cow_String& schema)
+{
+    return {name,
+            columns[Oid],
+            {{columns[ClassId], rfm_ColumnKind::Integer},
+             {columns[Position], rfm_ColumnKind::Integer},
+             {columns[Key], rfm_ColumnKind::Any},
+             {columns[Value], rfm_ColumnKind::Any},
+             {columns[TargetClassId], rfm_ColumnKind::Integer},
+             {columns[TargetOid], rfm_ColumnKind::Integer}},
+            checkSeed,
+            schema};
+}
+
+std::string rfm_Elements::SqlToRead(const cow_String& schema)
 {
     return "SELECT \"Position\", \"Key\", \"Value\", \"Target#ClassID\", \"Target#OID\", \"##Check\" "
-           "FROM \"rom_Element\" WHERE \"ClassID\" = ? AND \"OID\" = ? ORDER BY \"Position\"";
+           "FROM " +
+           Form(schema).SqlName() + " WHERE \"ClassID\" = ? AND \"OID\" = ? ORDER BY \"Position\"";
 }
 
 std::string rfm_Elements::SqlToReadAll()

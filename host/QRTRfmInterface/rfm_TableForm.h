@@ -61,9 +61,11 @@ OVR_EXPORT extern const char* const columns[ColumnCount];
 /// Columns that make up the primary key.
 inline constexpr int keyColumns = 3;
 
-std::string SqlToCreate();
+/// The table as one of rows that have their collection's number as key, so that several share one.
+OVR_EXPORT rfm_TableForm Form(const cow_String& schema = cow_String());
+OVR_EXPORT std::string SqlToCreate(const cow_String& schema = cow_String());
 /// The elements of one collection by position, without the collection's own two columns.
-std::string SqlToRead();
+std::string SqlToRead(const cow_String& schema = cow_String());
 /// All elements, with all columns as counted by `Column`.
 std::string SqlToReadAll();
 } // namespace rfm_Elements

@@ -62,6 +62,11 @@ bool cls_ClassMetadata::IsConcrete() const
     return plainConstructor != nullptr;
 }
 
+bool cls_ClassMetadata::DBWriteDefault(const cls_WriteVisitor&) const
+{
+    return false;
+}
+
 cls_ClassMetadata* cls_ClassMetadata::AddDtor(CowDestructor newDestructor)
 {
     destructor = newDestructor;

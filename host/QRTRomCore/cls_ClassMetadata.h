@@ -40,6 +40,9 @@ public:
     virtual void* Ctor(const cls_ReadVisitor& visitor) const;
     /// Whether an object of this class can be built from a record.
     virtual bool IsConcrete() const;
+    /// Writes an object as its default constructor makes it, for attributes that an older store does not
+    /// have; false, and nothing is written, where the class can't be built so.
+    virtual bool DBWriteDefault(const cls_WriteVisitor& visitor) const;
 
     cls_ClassMetadata* AddDtor(CowDestructor destructor);
     /// Rows by which the table grows; a hint for the store.

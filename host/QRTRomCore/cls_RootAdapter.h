@@ -24,4 +24,10 @@ public:
     void* Ctor(const cls_ReadVisitor& visitor) const override { return new T(visitor); }
 
     bool IsConcrete() const override { return true; }
+
+    bool DBWriteDefault(const cls_WriteVisitor& visitor) const override
+    {
+        T().DBWrite(visitor);
+        return true;
+    }
 };

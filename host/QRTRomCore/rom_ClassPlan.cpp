@@ -51,6 +51,13 @@ std::unique_ptr<rom_ClassPlan> rom_ClassPlan::Of(unsigned classId)
     return plan;
 }
 
+std::unique_ptr<rom_ClassPlan> rom_ClassPlan::Of(const cls_ClassMetadata& form)
+{
+    std::unique_ptr<rom_ClassPlan> plan(new rom_ClassPlan);
+    plan->PlanClass(form);
+    return plan;
+}
+
 void rom_ClassPlan::PlanCollection(unsigned classId)
 {
     table = {typ_ArchCompTable::GetName(classId),

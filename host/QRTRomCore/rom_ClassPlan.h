@@ -34,6 +34,8 @@ public:
 
     /// The plan of a class; null if nothing is known of the class.
     static std::unique_ptr<rom_ClassPlan> Of(unsigned classId);
+    /// The plan of a form of a class, which must outlive it. `IsA` and `CanBeHeld` go by the current classes.
+    static std::unique_ptr<rom_ClassPlan> Of(const cls_ClassMetadata& form);
 
     static bool IsCollection(unsigned classId)
     {
@@ -46,6 +48,8 @@ public:
     const cls_ClassMetadata* Metadata() const { return metadata; }
     bool IsCollection() const { return metadata == nullptr; }
     bool HasBase() const { return metadata && metadata->HasBase(); }
+    /// In stored order.
+    const std::vector<rom_AttributePlan>& Attributes() const { return attributes; }
     int CellCount() const { return static_cast<int>(table.columns.size()); }
     /// Whether some class above deletes handles on objects of this class.
     bool CanBeHeld() const;

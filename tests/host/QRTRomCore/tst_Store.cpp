@@ -62,6 +62,27 @@ public:
         return first;
     }
 
+    std::string All(const std::string& sql)
+    {
+        std::string rows;
+        sqlite3_stmt* statement = nullptr;
+        if (sqlite3_prepare_v2(connection, sql.c_str(), -1, &statement, nullptr) != SQLITE_OK)
+            Raise();
+        while (sqlite3_step(statement) == SQLITE_ROW)
+        {
+            for (int i = 0; i < sqlite3_column_count(statement); ++i)
+            {
+                const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, i));
+                rows += std::to_string(sqlite3_column_type(statement, i)) + ":";
+                rows.append(bytes ? bytes : "", static_cast<std::size_t>(sqlite3_column_bytes(statement, i))) += "|";
+            }
+            rows += "\n";
+        }
+        if (sqlite3_finalize(statement) != SQLITE_OK)
+            Raise();
+        return rows;
+    }
+
 private:
     [[noreturn]] void Raise() { throw std::runtime_error(sqlite3_errmsg(connection)); }
 
@@ -77,6 +98,11 @@ void tst_Execute(const std::string& path, const std::string& sql)
 std::string tst_Query(const std::string& path, const std::string& sql)
 {
     return Connection(path).Run(sql);
+}
+
+std::string tst_QueryAll(const std::string& path, const std::string& sql)
+{
+    return Connection(path).All(sql);
 }
 
 std::string tst_ReadFile(const std::string& path)

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "rom_ClassPlan.h"
+
+#include <string_view>
+
+/// One form of a class: its columns, and where in a row a field is found by its name.
+class dbc_Form
+{
+public:
+    /// What a cell is for.
+    enum class Use : unsigned char
+    {
+        Uid,
+        Base, ///< row of the base
+        Integer,
+        Boolean,
+        Real,
+        Text,
+        ClassId,
+        RowNumber,
+        OptionalNumber ///< of a collection
+    };
+
+    struct Field
+    {
+        int cell = -1;            ///< -1 if there is no such field
+        bool isReference = false; ///< the bare name of an object, whose class id the cell is
+    };
+
+    explicit dbc_Form(std::unique_ptr<rom_ClassPlan> plan);
+
+    const rom_ClassPlan& Plan() const { return *plan; }
+    const rfm_TableInfo& Table() const { return plan->Table(); }
+    unsigned ClassId() const { return Table().classId; }
+    const cow_String& Name() const { return Table().name; }
+    int Version() const { return Table().version; }
+    int CellCount() const { return plan->CellCount(); }
+    Use UseOf(int cell) const { return uses[static_cast<std::size_t>(cell)]; }
+    const cow_String& ColumnName(int cell) const
+    {
+        return Table().columns[static_cast<std::size_t>(cell)].name;
+    }
+
+    Field Find(std::string_view name) const;
+
+private:
+    void Enter(const cow_String& name, Field field);
+    static std::size_t Hash(std::string_view name);
+
+    struct Entry
+    {
+        cow_String name;
+        Field field;
+    };
+
+    std::unique_ptr<rom_ClassPlan> plan;
+    std::vector<Use> uses;
+    std::vector<Entry> entries; ///< open addressing, a power of two
+};

@@ -1,0 +1,202 @@
+#include "dbc_Plan.h"
+
+#include "rom_DatabaseRows.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace
+{
+std::string NameAndId(const rfm_TableInfo& table)
+{
+    char id[16];
+    std::snprintf(id, sizeof id, "0x%X", table.classId);
+    return std::string(table.name.CString()) + " (" + id + ")";
+}
+} // namespace
+
+dbc_Forms::dbc_Forms(const dbc_OldClasses& oldClasses, const cls_ClassRegistrar& currentClasses)
+{
+    for (const dbc_OldClasses::Entry& entry : oldClasses.Entries())
+    {
+        if (entry.form)
+            Add(rom_ClassPlan::Of(*entry.form));
+    }
+    const auto addCurrent = [this](std::unique_ptr<rom_ClassPlan> plan)
+    {
+        const unsigned classId = plan->ClassId();
+        const int version = plan->Table().version;
+        Add(std::move(plan));
+        current[classId] = Find(classId, version);
+    };
+    for (std::size_t i = 0; i < currentClasses.Count(); ++i)
+        addCurrent(rom_ClassPlan::Of(*currentClasses.At(i)));
+    addCurrent(rom_ClassPlan::Of(cls_ListTypeId));
+    addCurrent(rom_ClassPlan::Of(cls_MapTypeId));
+}
+
+void dbc_Forms::Add(std::unique_ptr<rom_ClassPlan> plan)
+{
+    std::unique_ptr<dbc_Form>& place = forms[plan->ClassId()][plan->Table().version];
+    place = std::make_unique<dbc_Form>(std::move(plan));
+}
+
+const dbc_Form* dbc_Forms::Find(unsigned classId, int version) const
+{
+    const auto versions = forms.find(classId);
+    if (versions == forms.end())
+        return nullptr;
+    const auto found = versions->second.find(version);
+    return found == versions->second.end() ? nullptr : found->second.get();
+}
+
+const dbc_Form* dbc_Forms::FormAt(unsigned classId, int version) const
+{
+    const auto versions = forms.find(classId);
+    if (versions == forms.end())
+        return nullptr;
+    const auto after = versions->second.upper_bound(version);
+    return after == versions->second.begin() ? nullptr : std::prev(after)->second.get();
+}
+
+const dbc_Form* dbc_Forms::FormAfter(unsigned classId, int version) const
+{
+    const auto versions = forms.find(classId);
+    if (versions == forms.end())
+        return nullptr;
+    const auto after = versions->second.upper_bound(version);
+    return after == versions->second.end() ? nullptr : after->second.get();
+}
+
+const dbc_Form* dbc_Forms::Current(unsigned classId) const
+{
+    const auto found = current.find(classId);
+    return found == current.end() ? nullptr : found->second;
+}
+
+unsigned dbc_Forms::CurrentIdOf(const cow_String& name) const
+{
+    for (const auto& [classId, form] : current)
+    {
+        if (form->Name() == name)
+            return classId;
+    }
+    return 0;
+}
+
+dbc_Plan::dbc_Plan(const rfm_Database& store, dbc_DatabaseConverter& converter,
+                   const dbc_OldClasses& oldClasses)
+    : store(store), converter(converter), forms(oldClasses, converter.OutputClasses())
+{
+    for (const dbc_OldClasses::Entry& entry : oldClasses.Entries())
+    {
+        if (entry.form)
+            versions[{entry.form->ClassId(), entry.form->Version()}] = entry.version;
+        for (const dbc_ClassConverter* step : entry.steps)
+            steps[{step->ClassId(), step->FromVersion()}].push_back({entry.version, step});
+    }
+}
+
+const dbc_Form& dbc_Plan::FormOf(const rfm_TableInfo& table) const
+{
+    const auto raise = [&](const std::string& message)
+    { store.Raise(message, table.name, rom_StoreException::NoRow); };
+    if (!forms.IsKnown(table.classId))
+        raise("The table is of a class that this release does not know, " + NameAndId(table) +
+              ", and an upgrade would lose it.");
+    const dbc_Form* current = forms.Current(table.classId);
+    if (current && table.version > current->Version())
+        raise("The table was written by a newer release: it has version " + std::to_string(table.version) +
+              ", and this release knows version " + std::to_string(current->Version()) + ".");
+    const dbc_Form* form = forms.Find(table.classId, table.version);
+    if (!form)
+        raise("No release has stored the class " + NameAndId(table) + " with version " +
+              std::to_string(table.version) + ".");
+    rom_RequireForm(store, table, form->Table());
+    return *form;
+}
+
+std::vector<dbc_PlannedStep> dbc_Plan::StepsFrom(const dbc_Form& start) const
+{
+    std::vector<dbc_PlannedStep> chain;
+    const dbc_Form* form = &start;
+    while (form && form != forms.Current(form->ClassId()))
+    {
+        const auto found = steps.find({form->ClassId(), form->Version()});
+        if (found == steps.end())
+        {
+            if (!IsDeleted(form->ClassId()) && SuccessorOf(*form) == 0)
+                Raise(*form, "There is no step from version " + std::to_string(form->Version()) + " on.");
+            // The class ends without a step of its own.
+            const auto version = versions.find({form->ClassId(), form->Version()});
+            chain.push_back({form->Version() + 1, version == versions.end() ? nullptr : version->second,
+                             nullptr, form, nullptr, SuccessorOf(*form)});
+            break;
+        }
+        const Step& step = OnlyStep(*form, found->second);
+        const dbc_Form* to = Destination(*form, *step.converter);
+        chain.push_back({step.converter->TargetVersion(), step.version, step.converter, form, to,
+                         to ? 0 : SuccessorOf(*form)});
+        form = to;
+    }
+    return chain;
+}
+
+const dbc_Plan::Step& dbc_Plan::OnlyStep(const dbc_Form& form, const std::vector<Step>& found) const
+{
+    if (found.size() > 1)
+        Raise(form, "There are two steps from version " + std::to_string(form.Version()) + ", to " +
+                        std::to_string(found[0].converter->TargetVersion()) + " and to " +
+                        std::to_string(found[1].converter->TargetVersion()) + ".");
+    const dbc_ClassConverter& step = *found.front().converter;
+    if (!(step.Name() == form.Name()))
+        Raise(form, std::string("The step from version ") + std::to_string(form.Version()) +
+                        " is declared for a class of the name " + step.Name().CString() + ".");
+    return found.front();
+}
+
+/// The form in which a step leaves the table. A few steps name a version that is none of the class's: what
+/// holds at that version is meant. A step to its own version leads to the form after it.
+const dbc_Form* dbc_Plan::Destination(const dbc_Form& form, const dbc_ClassConverter& step) const
+{
+    const int target = step.TargetVersion();
+    const auto raise = [&](const std::string& why)
+    {
+        Raise(form, "The step from version " + std::to_string(form.Version()) + " leads to version " +
+                        std::to_string(target) + ", " + why + ".");
+    };
+    if (target < form.Version())
+        raise("which is older");
+    const dbc_Form* current = forms.Current(form.ClassId());
+    if (current && target > current->Version())
+        raise("which lies beyond the class's own version " + std::to_string(current->Version()));
+    const dbc_Form* to = target == form.Version() ? forms.FormAfter(form.ClassId(), target)
+                                                  : forms.FormAt(form.ClassId(), target);
+    const bool leadsOn = to && to != &form;
+    if (!leadsOn && !IsDeleted(form.ClassId()) && SuccessorOf(form) == 0)
+        raise("at which the class has no other form");
+    return leadsOn ? to : nullptr;
+}
+
+unsigned dbc_Plan::SuccessorOf(const dbc_Form& form) const
+{
+    const cow_String* newName = converter.ClassesToRename().ConstGet(form.Name());
+    const unsigned successor = newName ? forms.CurrentIdOf(*newName) : 0;
+    return successor == form.ClassId() ? 0 : successor;
+}
+
+bool dbc_Plan::IsDeleted(unsigned classId) const
+{
+    const cow_List<unsigned>& deleted = converter.ClassesToDelete();
+    for (int i = 0; i < deleted.Count(); ++i)
+    {
+        if (deleted[i] == classId)
+            return true;
+    }
+    return false;
+}
+
+void dbc_Plan::Raise(const dbc_Form& form, const std::string& message) const
+{
+    store.Raise("The table can't be upgraded. " + message, form.Name());
+}

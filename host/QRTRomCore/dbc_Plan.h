@@ -1,0 +1,80 @@
+#pragma once
+
+#include "dbc_Form.h"
+#include "dbc_OldClasses.h"
+#include "rfm_Database.h"
+
+#include <map>
+
+/// All forms that classes have had, old ones and current ones.
+class dbc_Forms
+{
+public:
+    dbc_Forms(const dbc_OldClasses& oldClasses, const cls_ClassRegistrar& current);
+
+    /// Null if the class never had a form of just this version.
+    const dbc_Form* Find(unsigned classId, int version) const;
+    /// The form of the class that holds at a version: the newest that is not above it; null if there is none.
+    const dbc_Form* FormAt(unsigned classId, int version) const;
+    /// The oldest form above a version, or null.
+    const dbc_Form* FormAfter(unsigned classId, int version) const;
+    /// The form of this release; null for a class that is no more.
+    const dbc_Form* Current(unsigned classId) const;
+    /// Whether any form is known.
+    bool IsKnown(unsigned classId) const { return forms.count(classId) != 0; }
+    /// The class of this release that has a name; 0 if there is none.
+    unsigned CurrentIdOf(const cow_String& name) const;
+
+private:
+    void Add(std::unique_ptr<rom_ClassPlan> plan);
+
+    std::map<unsigned, std::map<int, std::unique_ptr<dbc_Form>>> forms;
+    std::map<unsigned, const dbc_Form*> current;
+};
+
+/// One step of one table.
+struct dbc_PlannedStep
+{
+    int target; ///< the stage in which it runs
+    dbc_OldClassVersion* version;
+    const dbc_ClassConverter* converter;
+    const dbc_Form* from;
+    const dbc_Form* to; ///< null where the class ends
+    unsigned successor; ///< the class whose table the rows join then; 0 if none does
+};
+
+/// Finds the steps by which tables become what this release has.
+class dbc_Plan
+{
+public:
+    /// `store` is named in errors.
+    dbc_Plan(const rfm_Database& store, dbc_DatabaseConverter& converter, const dbc_OldClasses& oldClasses);
+
+    const dbc_Forms& Forms() const { return forms; }
+
+    /// The form of a table that was found in a store. Throws if nobody knows the class or the version, or the
+    /// table has not the columns of that form.
+    const dbc_Form& FormOf(const rfm_TableInfo& table) const;
+    /// The steps of a table in a form, up to the current form or the class's end. Throws if a step is missing
+    /// or there are two.
+    std::vector<dbc_PlannedStep> StepsFrom(const dbc_Form& form) const;
+
+private:
+    struct Step
+    {
+        dbc_OldClassVersion* version;
+        const dbc_ClassConverter* converter;
+    };
+
+    const Step& OnlyStep(const dbc_Form& form, const std::vector<Step>& found) const;
+    const dbc_Form* Destination(const dbc_Form& form, const dbc_ClassConverter& converter) const;
+    unsigned SuccessorOf(const dbc_Form& form) const;
+    bool IsDeleted(unsigned classId) const;
+    [[noreturn]] void Raise(const dbc_Form& form, const std::string& message) const;
+
+    const rfm_Database& store;
+    dbc_DatabaseConverter& converter;
+    dbc_Forms forms;
+    std::map<std::pair<unsigned, int>, std::vector<Step>> steps;
+    std::map<std::pair<unsigned, int>, dbc_OldClassVersion*> versions;
+};

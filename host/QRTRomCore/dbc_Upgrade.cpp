@@ -1,0 +1,172 @@
+#include "dbc_Upgrade.h"
+
+#include "dbc_NewStore.h"
+#include "dbc_Stage.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace
+{
+std::int64_t CountRows(rfm_Database& database, const rfm_TableForm& form)
+{
+    rfm_Statement statement(database, "SELECT COUNT(*) FROM " + form.SqlName(), form.name);
+    return statement.Step() ? statement.Column(0).integer : 0;
+}
+
+cow_String NamesOf(const dbc_ClassConverter& step)
+{
+    cow_String names = step.ConversionName();
+    if (!step.FinalizeName().IsEmpty())
+        names.append(names.IsEmpty() ? "" : ", ").append(step.FinalizeName());
+    return names;
+}
+
+dbc_UpgradeStep Described(const dbc_PlannedStep& step)
+{
+    const dbc_ClassConverter* converter = step.converter;
+    const bool hasFunction = converter && (converter->ConversionFunction() || converter->FinalizeFunction());
+    return {step.from->Version(), step.target, hasFunction, converter ? NamesOf(*converter) : cow_String()};
+}
+
+/// The rows of a table as they lie in the old store.
+dbc_TableState StoredState(const dbc_Form& form, const rfm_TableInfo& table)
+{
+    dbc_Layer layer;
+    layer.physical = rfm_TableForm::Of(table);
+    layer.physical.schema = rfm_OldSchema;
+    for (int i = 0; i < form.CellCount(); ++i)
+    {
+        const auto found =
+            std::find_if(table.columns.begin(), table.columns.end(),
+                         [&](const rfm_Column& column) { return column.name == form.ColumnName(i); });
+        layer.source.push_back(static_cast<int>(found - table.columns.begin()));
+    }
+    return {&form, {std::move(layer)}};
+}
+
+/// The stage in which the next step runs; none if all are done.
+std::optional<int> NextStage(const dbc_Tables& tables)
+{
+    std::optional<int> next;
+    for (const auto& [classId, table] : tables)
+    {
+        if (table.done < table.steps.size() && (!next || table.NextStep().target < *next))
+            next = table.NextStep().target;
+    }
+    return next;
+}
+} // namespace
+
+struct dbc_Upgrade::Upgrade
+{
+    explicit Upgrade(const cow_String& oldPath)
+        : old(oldPath, rfm_Access::Read), oldClasses(converter), plan(old, converter, oldClasses)
+    {
+        for (const cow_String& part : old.ForeignParts())
+            old.Raise("The file holds parts that this release does not know, and an upgrade would lose them.",
+                      part);
+        for (const rfm_TableInfo& table : old.Tables())
+            Plan(table);
+    }
+
+    void Plan(const rfm_TableInfo& table)
+    {
+        const dbc_Form& form = plan.FormOf(table);
+        dbc_TableOnItsWay planned{StoredState(form, table), plan.StepsFrom(form), 0};
+        dbc_UpgradeTable described{table.name,
+                                   table.classId,
+                                   CountRows(old, rfm_TableForm::Of(table)),
+                                   table.version,
+                                   table.version,
+                                   table.name,
+                                   {}};
+        for (const dbc_PlannedStep& step : planned.steps)
+            described.steps.push_back(Described(step));
+        if (!planned.steps.empty())
+            DescribeEnd(planned.steps.back(), described);
+        rowsToDo += described.rows * (1 + FunctionsOf(described));
+        tables[table.classId] = std::move(planned);
+        descriptions.push_back(std::move(described));
+    }
+
+    static std::int64_t FunctionsOf(const dbc_UpgradeTable& table)
+    {
+        return std::count_if(table.steps.begin(), table.steps.end(),
+                             [](const dbc_UpgradeStep& step) { return step.hasFunction; });
+    }
+
+    /// Also plans the way of the class that takes the place of one that ends.
+    void DescribeEnd(const dbc_PlannedStep& last, dbc_UpgradeTable& described) const
+    {
+        const dbc_Form* end = last.to;
+        if (!end && last.successor != 0)
+        {
+            const dbc_Form* joined = plan.Forms().FormAt(last.successor, last.target);
+            for (const dbc_PlannedStep& step :
+                 joined ? plan.StepsFrom(*joined) : std::vector<dbc_PlannedStep>())
+                described.steps.push_back(Described(step));
+            end = plan.Forms().Current(last.successor);
+        }
+        described.to = end ? end->Version() : 0;
+        described.newName = end ? end->Name() : cow_String();
+    }
+
+    rfm_Database old;
+    dbc_DatabaseConverter converter;
+    dbc_OldClasses oldClasses;
+    dbc_Plan plan;
+    dbc_Tables tables;
+    std::vector<dbc_UpgradeTable> descriptions;
+    std::int64_t rowsToDo = 0;
+};
+
+dbc_Upgrade::dbc_Upgrade(const cow_String& oldPath) : upgrade(std::make_unique<Upgrade>(oldPath)) {}
+
+dbc_Upgrade::~dbc_Upgrade() = default;
+
+const std::vector<dbc_UpgradeTable>& dbc_Upgrade::Tables() const
+{
+    return upgrade->descriptions;
+}
+
+bool dbc_Upgrade::IsCurrent() const
+{
+    return std::all_of(upgrade->descriptions.begin(), upgrade->descriptions.end(),
+                       [](const dbc_UpgradeTable& table) { return table.steps.empty(); });
+}
+
+void dbc_Upgrade::Run(const cow_String& newPath, const Progress& progress)
+{
+    rfm_Database working(newPath, rfm_Access::Create);
+    working.AttachForConversion(upgrade->old);
+    std::int64_t done = 0;
+    const auto count = [&](std::int64_t rows)
+    {
+        done += rows;
+        if (progress && rows > 0)
+            progress(std::min(done, upgrade->rowsToDo), upgrade->rowsToDo);
+    };
+    const dbc_Stores stores{upgrade->old, working};
+    dbc_UpgradeState state{stores, upgrade->plan, upgrade->converter, std::move(upgrade->tables), {}, {}, 0,
+                           {},     count};
+    for (const unsigned collection : {cls_ListTypeId, cls_MapTypeId})
+    {
+        const auto found = state.tables.find(collection);
+        state.oldCollections[collection] =
+            found == state.tables.end() ? 0 : dbc_LastOid(stores, found->second.state);
+    }
+    {
+        dbc_NewStore store(stores, upgrade->plan.Forms(), state.changes, count);
+        store.TakeArrays();
+        while (const std::optional<int> stage = NextStage(state.tables))
+            dbc_Stage(state, *stage).Run();
+        for (const auto& [classId, table] : state.tables)
+            store.TakeTable(table.state);
+        store.TakeElements();
+        store.FillDefaults();
+        store.TakeRoots();
+        store.RequireReferences();
+    }
+    working.Commit();
+}
