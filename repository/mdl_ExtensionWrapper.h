@@ -64,19 +64,17 @@ struct cls_KindOf<R>
 
 /// Plugs a repository into the model: holds a copy of it.
 template <class R>
-class mdl_ExtensionWrapper : public mdl_Extension
+class mdl_ExtensionWrapper : public mdl_DescribedExtension<mdl_ExtensionWrapper<R>, mdl_Extension>
 {
     using Container = mdl_ContainerOf<R>;
+    using Described = mdl_DescribedExtension<mdl_ExtensionWrapper, mdl_Extension>;
 
 public:
-    using cls_RootClass = mdl_Extension;
-    using cls_Base = mdl_Extension;
-
-    static constexpr bool cls_IsDirect = false;
     static constexpr int cls_Version = 401;
-    static constexpr int cls_EntryCount = 1;
 
     static constexpr unsigned TypeId() { return Container::wrapperId; }
+
+    static constexpr const char* StoredName() { return Container::wrapperName; }
 
     static constexpr cls_Entry cls_EntryAt(std::integral_constant<int, 0>)
     {
@@ -91,27 +89,14 @@ public:
             { return &static_cast<mdl_ExtensionWrapper*>(static_cast<mdl_Extension*>(object))->extension; }};
     }
 
-    static const cls_Description& Description()
-    {
-        static constexpr cls_ClassInfo info =
-            cls_detail::MakeInfo<mdl_ExtensionWrapper>(Container::wrapperName);
-        static const cls_Description description(info);
-        return description;
-    }
-
-    static void InitializeMetadata(cls_ClassRegistrar& registrar)
-    {
-        cls_detail::Describe<mdl_ExtensionWrapper>(registrar);
-    }
-
     mdl_ExtensionWrapper() { uid.AllocateUid(); }
 
     /// Holds a copy of `repository`.
     explicit mdl_ExtensionWrapper(const R& repository) : extension(repository) { uid.AllocateUid(); }
 
-    explicit mdl_ExtensionWrapper(const cls_ReadVisitor& visitor) : mdl_Extension(cls_ReadVisitor(visitor))
+    explicit mdl_ExtensionWrapper(const cls_ReadVisitor& visitor) : Described(cls_ReadVisitor(visitor))
     {
-        Description().ReadAttributes(static_cast<mdl_Extension*>(this), visitor);
+        Described::Description().ReadAttributes(static_cast<mdl_Extension*>(this), visitor);
         uid = visitor.GetUid();
     }
 
@@ -124,16 +109,6 @@ public:
     mdl_Repository* GetValue() override { return &extension; }
 
     const mdl_Repository* ConstGetValue() const override { return &extension; }
-
-    unsigned DynTypeId() const override { return TypeId(); }
-
-    void DBWrite(const cls_WriteVisitor& visitor) const override
-    {
-        if (!visitor.StartWrite(TypeId(), uid))
-            return;
-        cls_detail::WriteBase(*this, visitor);
-        Description().WriteAttributes(static_cast<const mdl_Extension*>(this), visitor);
-    }
 
     void NewUid() override
     {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cls_Class.h"
 #include "mdl_Changes.h"
 #include "mdl_ContainerOf.h"
+#include "mdl_DescribedExtension.h"
 #include "mdl_Repository.h"
 #include "omi_gettimecounter.h"
 
@@ -21,22 +21,20 @@ inline constexpr const char* contentName<cls_xc1DArrayList<Handle, T>> = "list";
 /// under which name they report changes. `Self` is the repository, `Content` the collection that it keeps its
 /// objects in. Path and time are not stored. A copy, and what a repository is assigned from, is the same row.
 template <class Self, class Content>
-class mdl_StoredRepository : public mdl_Repository
+class mdl_StoredRepository : public mdl_DescribedExtension<Self, mdl_Repository>
 {
     using Container = mdl_ContainerOf<Self>;
+    using Described = mdl_DescribedExtension<Self, mdl_Repository>;
 
 public:
-    using cls_RootClass = mdl_Extension;
-    using cls_Base = mdl_Repository;
-
-    static constexpr bool cls_IsDirect = false;
     static constexpr int cls_Version = 800;
-    static constexpr int cls_EntryCount = 1;
 
     static constexpr unsigned TypeId() { return Container::containerId; }
 
+    static constexpr const char* StoredName() { return Container::containerName; }
+
     /// The stored name of the class.
-    static const char* DBClassName() { return Container::containerName; }
+    static const char* DBClassName() { return StoredName(); }
 
     static constexpr cls_Entry cls_EntryAt(std::integral_constant<int, 0>)
     {
@@ -51,26 +49,7 @@ public:
             { return &static_cast<mdl_StoredRepository*>(static_cast<mdl_Extension*>(object))->content; }};
     }
 
-    static const cls_Description& Description()
-    {
-        static constexpr cls_ClassInfo info = cls_detail::MakeInfo<Self>(Container::containerName);
-        static const cls_Description description(info);
-        return description;
-    }
-
-    static void InitializeMetadata(cls_ClassRegistrar& registrar) { cls_detail::Describe<Self>(registrar); }
-
     ~mdl_StoredRepository() override = default;
-
-    unsigned DynTypeId() const override { return TypeId(); }
-
-    void DBWrite(const cls_WriteVisitor& visitor) const override
-    {
-        if (!visitor.StartWrite(TypeId(), uid))
-            return;
-        cls_detail::WriteBase(*this, visitor);
-        Description().WriteAttributes(static_cast<const mdl_Extension*>(this), visitor);
-    }
 
     void NewUid() override
     {
@@ -100,9 +79,9 @@ protected:
     }
 
     mdl_StoredRepository(const cls_ReadVisitor& visitor, bool isChanged)
-        : mdl_Repository(cls_ReadVisitor(visitor)), changed(isChanged), timeStamp(omi_gettimecounter())
+        : Described(cls_ReadVisitor(visitor)), changed(isChanged), timeStamp(omi_gettimecounter())
     {
-        Description().ReadAttributes(static_cast<mdl_Extension*>(this), visitor);
+        Described::Description().ReadAttributes(static_cast<mdl_Extension*>(this), visitor);
         uid = visitor.GetUid();
     }
 

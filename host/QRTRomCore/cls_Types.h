@@ -3,7 +3,7 @@
 #include "cow_COW.h"
 
 /// Stored codes of attribute kinds.
-enum cls_AttributeType : int
+enum OVR_EXPORT cls_AttributeType : int
 {
     cls_TypeInt = 5,
     cls_TypeIntSecond = 7, ///< An integer like code 5; kept because one attribute was declared with it.
