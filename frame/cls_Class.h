@@ -196,15 +196,32 @@ public:                                                                         
 
 /// Begins the declaration of a root that has objects of its own, held through `cow_Virtual`.
 #define CLS_CONCRETE_ROOT(Self, Id, SchemaVersion)                                                           \
+    CLS_CONCRETE_ROOT_SLOTS(Self, Id, SchemaVersion)                                                         \
+    CLS_SLOT_COPY                                                                                            \
+    CLS_SLOT_WRITE                                                                                           \
+    CLS_SLOT_TYPE
+
+/// The same for a root whose virtual operations stand in another order, or have others between them: behind
+/// it the class declares its operations in the order of their slots, CLS_SLOT_COPY, CLS_SLOT_WRITE and
+/// CLS_SLOT_TYPE among them.
+#define CLS_CONCRETE_ROOT_SLOTS(Self, Id, SchemaVersion)                                                     \
     CLS_COMMON(Self, mem_AllocationOperators, Id, SchemaVersion)                                             \
     CLS_ROOT_COMMON(Self)                                                                                    \
     static constexpr bool cls_IsDirect = false;                                                              \
-    virtual ~Self() = default;                                                                               \
-    virtual Self* Copy() const                                                                               \
+    virtual ~Self() = default;
+
+/// The operation that copies an object of a root.
+#define CLS_SLOT_COPY                                                                                        \
+    virtual cls_Self* Copy() const                                                                           \
     {                                                                                                        \
-        return new Self(*this);                                                                              \
-    }                                                                                                        \
-    virtual void DBWrite(const cls_WriteVisitor& visitor) const;                                             \
+        return new cls_Self(*this);                                                                          \
+    }
+
+/// The operation that writes an object of a root.
+#define CLS_SLOT_WRITE virtual void DBWrite(const cls_WriteVisitor& visitor) const;
+
+/// The operation that tells the class of an object of a root.
+#define CLS_SLOT_TYPE                                                                                        \
     virtual unsigned DynTypeId() const                                                                       \
     {                                                                                                        \
         return TypeId();                                                                                     \

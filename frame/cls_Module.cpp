@@ -1,5 +1,7 @@
 #include "cls_Module.h"
 
+#include "atr_translate.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -9,7 +11,9 @@ namespace
 atr_String TextOf(const cls_MessageTable& table, int code)
 {
     const char* text = table.Text(code);
-    return text ? atr_raw(text, 0) : atr_String();
+    if (!text)
+        return atr_String();
+    return table.isTranslated ? atr_translate(text, 0).Result(0) : atr_raw(text, 0);
 }
 
 } // namespace

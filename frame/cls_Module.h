@@ -44,6 +44,8 @@ struct cls_MessageTable
     const char* function;
     const char* const* texts;
     int count;
+    /// Whether messages are translated; those of most modules are not.
+    bool isTranslated = false;
 
     /// The text of a code, or null for a code outside the table.
     const char* Text(int code) const { return code >= 0 && code < count ? texts[code] : nullptr; }
