@@ -61,6 +61,7 @@ public:
           table(other.table)
     {
         ++*tableShare;
+        CloseEnds();
     }
 
     /// Shares the content of `other`.
@@ -119,7 +120,7 @@ public:
     {
         // Read before the branch, so that a loop of calls can keep it in a register.
         const int countBefore = count;
-        if (table == nullptr || Head().backNext == Head().backEnd || *tableShare > 1) [[unlikely]]
+        if (table == nullptr || Head().backNext == Head().backEnd) [[unlikely]]
             OpenBack();
         ::new (static_cast<void*>(Head().backNext)) T(value);
         ++Head().backNext;
@@ -129,7 +130,7 @@ public:
     void Prepend(const T& value)
     {
         const int countBefore = count;
-        if (table == nullptr || Head().frontNext == Head().frontEnd || *tableShare > 1) [[unlikely]]
+        if (table == nullptr || Head().frontNext == Head().frontEnd) [[unlikely]]
             OpenFront();
         ::new (static_cast<void*>(Head().frontNext - 1)) T(value);
         --Head().frontNext;
@@ -146,7 +147,7 @@ public:
             return Prepend(value);
         CheckIndex(i);
         CopyArray();
-        ForgetEnds();
+        CloseEnds();
         // `value` may be one of the elements that move.
         Holding held(value);
         if (count - i > i)
@@ -160,7 +161,7 @@ public:
     {
         CheckIndex(i);
         CopyArray();
-        ForgetEnds();
+        CloseEnds();
         if (count - i <= i)
             RemoveTowardsBack(i);
         else
@@ -376,6 +377,7 @@ private:
     using ListBlock = cow_ListBlock<T>;
 
     static constexpr int newBlockShift = 4;
+    static constexpr int usualBlockSize = 1 << newBlockShift;
     static constexpr int tableUnitShift = 4;
     static constexpr int tableUnit = 1 << tableUnitShift;
 
@@ -418,9 +420,9 @@ private:
     /// `capacity` slots in all, so that the table grows at both ends without being copied each time.
     struct TableHead
     {
-        T* backNext;  ///< place behind the last element, where Append writes next; or as backEnd: not known
+        T* backNext;  ///< place behind the last element, where Append writes next; or as backEnd: closed
         T* backEnd;   ///< end of that private block
-        T* frontNext; ///< place of element 0, before which Prepend writes next; or as frontEnd: not known
+        T* frontNext; ///< place of element 0, before which Prepend writes next; or as frontEnd: closed
         T* frontEnd;  ///< start of that private block
         int gap;
         int capacity;
@@ -445,8 +447,9 @@ private:
             mem_Free(reinterpret_cast<ListBlock**>(&Head()) - Head().gap);
     }
 
-    /// Before a change other than Append and Prepend: their next places have to be found anew.
-    void ForgetEnds() noexcept
+    /// Before a change other than Append and Prepend, and when the table gets another holder: their next
+    /// places have to be found anew. An open end belongs to a table that is not shared.
+    void CloseEnds() noexcept
     {
         if (table == nullptr)
             return;
@@ -527,11 +530,19 @@ private:
     /// A block with share 1 and raw storage.
     ListBlock* NewBlock() const
     {
+        // A size known to the compiler takes the shorter way through the slab.
+        if (blockShift == newBlockShift) [[likely]]
+            return NewBlockOf(sizeof(T) << newBlockShift);
+        return NewBlockOf(sizeof(T) << blockShift);
+    }
+
+    static ListBlock* NewBlockOf(std::size_t bytes)
+    {
         static_assert(sizeof(ListBlock) == 16 && alignof(T) <= alignof(std::max_align_t));
         void* storage = mem_OperatorNewTinyThrow(sizeof(ListBlock));
         try
         {
-            return ::new (storage) ListBlock{1, static_cast<T*>(NewData())};
+            return ::new (storage) ListBlock{1, static_cast<T*>(mem_Malloc(bytes))};
         }
         catch (...)
         {
@@ -540,12 +551,12 @@ private:
         }
     }
 
-    void* NewData() const
+    /// A new block of the usual size in an empty slot; returns its data.
+    T* AddUsualBlock(unsigned slot)
     {
-        // A size known to the compiler takes the shorter way through the slab.
-        if (blockShift == newBlockShift) [[likely]]
-            return mem_Malloc(sizeof(T) << newBlockShift);
-        return mem_Malloc(sizeof(T) << blockShift);
+        ListBlock* block = NewBlockOf(sizeof(T) << newBlockShift);
+        table[slot] = block;
+        return block->data;
     }
 
     void FreeBlock(ListBlock* block) const noexcept
@@ -557,26 +568,25 @@ private:
         mem_FreeSized(block, sizeof *block);
     }
 
-    /// Takes the list's share from the block in `slot`; the last one destroys the elements, from the last
-    /// down. The slot keeps its pointer.
-    void ReleaseBlock(int slot) noexcept
+    /// Takes the list's share from the block in `slot`, if there is one; the last one destroys the elements,
+    /// from the last down. True when the block is left to be freed. The slot keeps its pointer.
+    bool ReleaseBlock(int slot) noexcept
     {
         ListBlock* block = table[slot];
-        if (--block->share > 0)
-            return;
+        if (block == nullptr || --block->share > 0)
+            return false;
         if constexpr (!std::is_trivially_destructible_v<T>)
         {
             const Range range = RangeIn(slot);
             DestroyDown(block->data + range.first, block->data + range.end);
         }
-        FreeBlock(block);
+        return true;
     }
 
     void DropBlock(int slot) noexcept
     {
-        if (table[slot] == nullptr)
-            return;
-        ReleaseBlock(slot);
+        if (ReleaseBlock(slot))
+            FreeBlock(table[slot]);
         table[slot] = nullptr;
     }
 
@@ -589,13 +599,23 @@ private:
         }
     }
 
-    /// Releases the blocks, the table and the share count of a list that nothing shares any more.
+    /// Releases the blocks, the table and the share count of a list that nothing shares any more. Blocks that
+    /// were made one after the other are freed together.
     [[gnu::noinline]] void Destroy() noexcept
     {
-        for (int slot = 0; slot < tableSize; ++slot)
         {
-            if (table[slot] != nullptr)
-                ReleaseBlock(slot);
+            mem_FreeMany<sizeof(T) << newBlockShift> data;
+            mem_FreeMany<sizeof(ListBlock)> blocks;
+            for (int slot = 0; slot < tableSize; ++slot)
+            {
+                if (!ReleaseBlock(slot))
+                    continue;
+                if (blockShift == newBlockShift) [[likely]]
+                    data.Add(table[slot]->data);
+                else
+                    mem_Free(table[slot]->data);
+                blocks.Add(table[slot]);
+            }
         }
         FreeTable();
         mem_Free(tableShare);
@@ -643,7 +663,7 @@ private:
             }
             std::memcpy(copy, table, static_cast<std::size_t>(tableSize) * sizeof(ListBlock*));
             ShareBlocks();
-            ForgetEnds();
+            CloseEnds();
         }
         --*tableShare;
         tableShare = fresh;
@@ -714,7 +734,7 @@ private:
         tableSize = slots;
         if (slots == 0)
             return;
-        ForgetEnds();
+        CloseEnds();
         std::fill_n(table, shift, nullptr);
         std::fill(table + shift + kept, table + slots, nullptr);
     }
@@ -760,7 +780,7 @@ private:
             return Swap(fresh);
         }
         CopyArray();
-        ForgetEnds();
+        CloseEnds();
         const int position = n == 0 ? 0 : offset + n;
         const int keptSlots = static_cast<int>((std::int64_t{position} + BlockSize() - 1) >> blockShift);
         const int lastPlace = position & (BlockSize() - 1);
@@ -780,8 +800,22 @@ private:
         }
     }
 
-    /// Makes the place behind the last element ready to be written.
+    /// Makes the place behind the last element ready to be written. Most often a block of the usual size has
+    /// just become full, and an empty slot follows in the same unit of the table.
     [[gnu::noinline]] void OpenBack()
+    {
+        const unsigned position = static_cast<unsigned>(offset) + static_cast<unsigned>(count);
+        const unsigned slot = position >> newBlockShift;
+        if (table == nullptr || blockShift != newBlockShift || Head().backNext == nullptr ||
+            slot % tableUnit == 0 || table[slot] != nullptr || position > INT_MAX - usualBlockSize)
+            return FindBack();
+        T* data = AddUsualBlock(slot);
+        Head().backNext = data;
+        Head().backEnd = data + usualBlockSize;
+    }
+
+    /// As OpenBack, whatever the state.
+    [[gnu::noinline]] void FindBack()
     {
         CopyArray();
         const std::int64_t position = std::int64_t{offset} + count;
@@ -793,8 +827,21 @@ private:
         Head().backEnd = data + BlockSize();
     }
 
-    /// Makes the place before element 0 ready to be written.
+    /// Makes the place before element 0 ready to be written; most often as OpenBack, if the table has a slot
+    /// left before it.
     [[gnu::noinline]] void OpenFront()
+    {
+        const unsigned slot = (static_cast<unsigned>(offset) >> newBlockShift) - 1;
+        if (table == nullptr || blockShift != newBlockShift || Head().frontNext == nullptr || offset == 0 ||
+            table[slot] != nullptr)
+            return FindFront();
+        T* data = AddUsualBlock(slot);
+        Head().frontNext = data + usualBlockSize;
+        Head().frontEnd = data;
+    }
+
+    /// As OpenFront, whatever the state.
+    [[gnu::noinline]] void FindFront()
     {
         Prefix();
         const int position = offset - 1;
@@ -861,7 +908,7 @@ private:
     void Construct(int n, Make make)
     {
         CopyArray();
-        ForgetEnds();
+        CloseEnds();
         const int end = PositionFor(std::int64_t{count} + n);
         FitTable(end);
         if (n == 0)

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <new>
 #include <sys/mman.h>
+#include <utility>
 
 namespace mem_detail
 {
@@ -149,6 +150,30 @@ void mem_detail::SlabReopen(unsigned slabClass, SlabPage* page) noexcept
         return;
     page->next = supply.others;
     supply.others = page;
+}
+
+void mem_detail::SlabFreeRun(unsigned slabClass, std::uintptr_t distance, std::size_t blocks) noexcept
+{
+    SlabSupply& supply = slab.supplies[slabClass];
+    const std::uintptr_t first = slab.base + slabClass * slabClassBytes + distance;
+    if (first + blocks * SlabSize(slabClass) == supply.next)
+    {
+        supply.next = first;
+        return;
+    }
+    std::size_t index = distance / SlabSize(slabClass);
+    while (blocks != 0)
+    {
+        SlabPage* page = FirstPage(slabClass) + index / slabPageBlocks;
+        const std::size_t place = index % slabPageBlocks;
+        const std::size_t run = std::min<std::size_t>(blocks, slabPageBlocks - place);
+        const std::uint64_t free =
+            std::exchange(page->free, page->free | ~std::uint64_t{0} >> (slabPageBlocks - run) << place);
+        if (free == 0)
+            SlabReopen(slabClass, page);
+        index += run;
+        blocks -= run;
+    }
 }
 
 void* mem_detail::HeapNew(std::size_t size)

@@ -102,6 +102,9 @@ OVR_EXPORT void* SlabNextRun(unsigned slabClass);
 /// Notes that a page without free blocks has one again.
 OVR_EXPORT void SlabReopen(unsigned slabClass, SlabPage* page) noexcept;
 
+/// Gives back `blocks` blocks side by side, the first at `distance` from the first of their class.
+OVR_EXPORT void SlabFreeRun(unsigned slabClass, std::uintptr_t distance, std::size_t blocks) noexcept;
+
 /// A block from the C heap; throws std::bad_alloc.
 OVR_EXPORT void* HeapNew(std::size_t size);
 
@@ -193,6 +196,49 @@ inline void mem_FreeSized(void* block, std::size_t size) noexcept
         return SlabFree(slabClass, distance);
     HeapFree(block);
 }
+
+/// Gives back many blocks that were made for `size` bytes each, some of them only when it goes: those that
+/// lie side by side go back together.
+template <std::size_t size>
+class mem_FreeMany
+{
+public:
+    mem_FreeMany() = default;
+    mem_FreeMany(const mem_FreeMany&) = delete;
+    mem_FreeMany& operator=(const mem_FreeMany&) = delete;
+    ~mem_FreeMany() { FreeRun(); }
+
+    void Add(void* block) noexcept
+    {
+        using namespace mem_detail;
+        if constexpr (!slabActive || size > slabLimit)
+            return HeapFree(block);
+        const auto address = reinterpret_cast<std::uintptr_t>(block);
+        if (address != end) [[unlikely]]
+        {
+            FreeRun();
+            first = address;
+        }
+        end = address + SlabSize(SlabClass(size));
+    }
+
+private:
+    void FreeRun() noexcept
+    {
+        using namespace mem_detail;
+        if (first == end)
+            return;
+        constexpr unsigned slabClass = SlabClass(size);
+        const std::uintptr_t distance = first - slab.base - slabClass * slabClassBytes;
+        if (distance < slabClassBytes) [[likely]]
+            return SlabFreeRun(slabClass, distance, (end - first) / SlabSize(slabClass));
+        for (; first != end; first += SlabSize(slabClass))
+            HeapFree(reinterpret_cast<void*>(first));
+    }
+
+    std::uintptr_t first = 0;
+    std::uintptr_t end = 0;
+};
 
 /// Blocks handed out by any function of this header and not yet given back. Walks all pages, so it is for
 /// tests and reports.

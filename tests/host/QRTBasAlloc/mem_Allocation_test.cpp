@@ -12,8 +12,10 @@
 #include <limits>
 #include <new>
 #include <random>
+#include <set>
 #include <string>
 #include <sys/resource.h>
+#include <utility>
 #include <vector>
 
 /// Lets the C heap of a sanitized build run out as any other does.
@@ -212,6 +214,64 @@ TEST(mem_Allocation, BlocksOfKnownSizeAreGivenBackToTheSameMemory)
     EXPECT_EQ(mem_BlocksInUse(), before);
 }
 
+/// What `FreeMany` is given of 300 blocks that were taken one after the other, in this order.
+struct Choice
+{
+    const char* name;
+    int first;
+    int end;
+    int step;
+};
+
+constexpr Choice choices[] = {
+    {"none", 0, 0, 1},
+    {"all", 0, 300, 1},
+    {"the last taken", 299, 300, 1},
+    {"some in the middle", 30, 200, 1},
+    {"every other", 0, 300, 2},
+    {"backwards", 299, -1, -1},
+};
+
+template <std::size_t size>
+void ExpectFreeManyFrees(const Choice& choice)
+{
+    SCOPED_TRACE(testing::Message() << choice.name << ", " << size << " bytes");
+    const std::size_t before = mem_BlocksInUse();
+    std::vector<void*> blocks;
+    for (int i = 0; i < 300; ++i)
+        blocks.push_back(mem_OperatorNewThrow(size));
+    {
+        mem_FreeMany<size> many;
+        for (int i = choice.first; i != choice.end; i += choice.step)
+            many.Add(std::exchange(blocks[static_cast<std::size_t>(i)], nullptr));
+    }
+    std::erase(blocks, nullptr);
+    EXPECT_EQ(mem_BlocksInUse(), before + blocks.size());
+    // What was given back can be taken again, and nothing else.
+    std::set<void*> taken(blocks.begin(), blocks.end());
+    while (taken.size() < 400)
+    {
+        void* block = mem_OperatorNewThrow(size);
+        ASSERT_TRUE(taken.insert(block).second);
+        std::memset(block, 0xAB, size);
+    }
+    for (void* block : taken)
+        mem_Free(block);
+    EXPECT_EQ(mem_BlocksInUse(), before);
+}
+
+TEST(mem_Allocation, FreesManyBlocksTogether)
+{
+    for (const Choice& choice : choices)
+    {
+        ExpectFreeManyFrees<4>(choice);
+        ExpectFreeManyFrees<16>(choice);
+        ExpectFreeManyFrees<128>(choice);
+        ExpectFreeManyFrees<256>(choice);
+        ExpectFreeManyFrees<1000>(choice);
+    }
+}
+
 RC_GTEST_PROP(mem_Allocation, BlocksNeverOverlap, (const std::vector<std::pair<std::uint16_t, bool>>& steps))
 {
     const std::size_t before = mem_BlocksInUse();
@@ -268,8 +328,11 @@ RC_GTEST_PROP(mem_Allocation, BlocksNeverOverlap, (const std::vector<std::pair<s
         threw = true;
     }
     const std::size_t taken = blocks.size();
-    for (void* block : blocks)
-        mem_Free(block);
+    {
+        mem_FreeMany<64> many;
+        for (void* block : blocks)
+            many.Add(block);
+    }
     void* again = taken > 0 ? mem_OperatorNewThrow(64) : nullptr;
     std::_Exit(threw && again != nullptr ? 0 : 1);
 }
