@@ -1,7 +1,9 @@
 #include "cow_BtreeBuilder.h"
 #include "cow_BtreeTestSupport.h"
 
+#include <algorithm>
 #include <bit>
+#include <cstdlib>
 #include <rapidcheck/gtest.h>
 
 namespace
@@ -12,6 +14,17 @@ using Builder = cow_BtreeBuilder<int, int>;
 class BtreeBuilderTest : public MapTest
 {};
 
+/// True when no node needs a rotation, where an absent child is as tall as a leaf.
+bool IsBalanced(const Map::Handle* handle)
+{
+    if (handle == nullptr)
+        return true;
+    const auto tall = [](const Map::Handle* child) { return std::max(Depth(child), 1); };
+    const Map::Node& node = **handle;
+    return std::abs(tall(node.Left()) - tall(node.Right())) <= 1 && IsBalanced(node.Left()) &&
+           IsBalanced(node.Right());
+}
+
 TEST_F(BtreeBuilderTest, NothingAddedGivesAnEmptyMap)
 {
     Builder builder;
@@ -20,9 +33,9 @@ TEST_F(BtreeBuilderTest, NothingAddedGivesAnEmptyMap)
     EXPECT_EQ(map.Count(), 0);
 }
 
-TEST_F(BtreeBuilderTest, AscendingKeysGiveALeastTree)
+TEST_F(BtreeBuilderTest, AscendingKeysGiveABalancedTreeOfLeastHeight)
 {
-    for (int n = 1; n <= 130; ++n)
+    for (int n = 1; n <= 300; ++n)
     {
         Builder builder;
         for (int key = 0; key < n; ++key)
@@ -31,6 +44,7 @@ TEST_F(BtreeBuilderTest, AscendingKeysGiveALeastTree)
         EXPECT_EQ(map.Count(), n);
         EXPECT_EQ(Depth(map.Root()), std::bit_width(static_cast<unsigned>(n))) << n;
         EXPECT_TRUE(HeightsAreExact(map.Root())) << n;
+        EXPECT_TRUE(IsBalanced(map.Root())) << n;
         const auto entries = Entries(map);
         ASSERT_EQ(entries.size(), static_cast<std::size_t>(n));
         for (int key = 0; key < n; ++key)
@@ -67,9 +81,9 @@ TEST_F(BtreeBuilderTest, EqualKeysKeepTheFirstValue)
 TEST_F(BtreeBuilderTest, BuilderThatIsGivenUpFreesItsEntries)
 {
     {
-        cow_BtreeBuilder<int, Tracked> chained;
+        cow_BtreeBuilder<int, Tracked> ascending;
         for (int key = 0; key < 1000; ++key)
-            chained.Add(key, Tracked(key));
+            ascending.Add(key, Tracked(key));
         cow_BtreeBuilder<int, Tracked> inserted;
         inserted.Add(2, Tracked(2));
         inserted.Add(1, Tracked(1));
