@@ -5,6 +5,7 @@
 #include "cow_KeyOrder.h"
 
 #include <algorithm>
+#include <climits>
 #include <memory>
 #include <new>
 #include <utility>
@@ -234,7 +235,23 @@ private:
         return node;
     }
 
-    static int HeightAbove(const Handle* handle) { return handle == nullptr ? 0 : (*handle)->height + 1; }
+    /// The same with what its key has elsewhere, where the node itself is looked at anyway.
+    static const cow_BtreeNode* FetchWithKey(const Handle* handle)
+    {
+        const cow_BtreeNode* node = Fetch(handle);
+        if constexpr (requires { cow_KeyOrder<K>::Fetch(node->key); })
+        {
+            if (node != nullptr)
+                cow_KeyOrder<K>::Fetch(node->key);
+        }
+        return node;
+    }
+
+    static int HeightAbove(const cow_BtreeNode* node) { return node == nullptr ? 0 : node->height + 1; }
+    static int HeightAbove(const Handle* handle)
+    {
+        return HeightAbove(handle == nullptr ? nullptr : handle->ConstGet());
+    }
 
     /// How much taller the right child is than the left, where an absent child is as tall as a leaf.
     static int LeanOf(int aboveLeft, int aboveRight)
@@ -245,6 +262,15 @@ private:
     static bool IsTooMuch(int lean) { return lean < -1 || lean > 1; }
 
     int Lean() const { return LeanOf(HeightAbove(left), HeightAbove(right)); }
+
+    /// Whether this node, with these children, would stay as it is if it were balanced and its height
+    /// recomputed.
+    bool IsSettled(const cow_BtreeNode* lower, const cow_BtreeNode* higher) const
+    {
+        const int aboveLeft = HeightAbove(lower);
+        const int aboveRight = HeightAbove(higher);
+        return height == std::max(aboveLeft, aboveRight) && !IsTooMuch(LeanOf(aboveLeft, aboveRight));
+    }
 
     /// Recomputes the height, and returns the lean.
     int ComputeHeight()
@@ -279,9 +305,11 @@ private:
         slot = node->Balance(slot);
     }
 
-    /// Balances and recomputes along `path`, from its end up to its first node, which keeps its place. When
-    /// copying a node for a rotation fails, the rotations left are not done, but the heights are.
-    static void Rebalance(const Path& path)
+    /// Balances and recomputes along `path`, from its end up to its first node, which keeps its place; or to
+    /// where nothing more would change, since the height is as before and all nodes above are settled, as
+    /// those before level `unsettled` are. When copying a node for a rotation fails, the rotations left are
+    /// not done, but the heights are.
+    static void Rebalance(const Path& path, int unsettled)
     {
         int level = path.Depth() - 1;
         if (level < 0)
@@ -295,7 +323,10 @@ private:
                 const auto& step = path[level];
                 if (IsTooMuch(lean)) [[unlikely]]
                     RotateSlot(*step.slot);
+                const int heightBefore = step.node->height;
                 lean = step.node->ComputeHeight();
+                if (step.node->height == heightBefore && level <= unsettled && !IsTooMuch(lean))
+                    return;
             }
         }
         catch (...)
@@ -311,15 +342,18 @@ private:
     bool Insert(const K& newKey, const V& newValue, int& count)
     {
         Path path;
+        int unsettled = INT_MAX;
         cow_BtreeNode* node = this;
         for (;;)
         {
-            Fetch(node->left);
-            Fetch(node->right);
+            const cow_BtreeNode* lower = FetchWithKey(node->left);
+            const cow_BtreeNode* higher = FetchWithKey(node->right);
             const int order = cow_KeyOrder<K>::Compare(newKey, node->key);
             if (order == 0)
                 return false;
             Handle*& slot = order < 0 ? node->left : node->right;
+            if (!node->IsSettled(lower, higher)) [[unlikely]]
+                unsettled = std::min(unsettled, path.Depth());
             path.Push(node, &slot);
             if (slot == nullptr)
             {
@@ -329,7 +363,7 @@ private:
             node = Writable(slot);
         }
         ++count;
-        Rebalance(path);
+        Rebalance(path, unsettled);
         return true;
     }
 
@@ -337,17 +371,20 @@ private:
     bool Erase(const K& sought, cow_BtreeNode* parent, int& count)
     {
         Path path;
+        int unsettled = INT_MAX;
         cow_BtreeNode* node = this;
         for (;;)
         {
-            Fetch(node->left);
-            Fetch(node->right);
+            const cow_BtreeNode* lower = FetchWithKey(node->left);
+            const cow_BtreeNode* higher = FetchWithKey(node->right);
             const int order = cow_KeyOrder<K>::Compare(sought, node->key);
             if (order == 0)
                 break;
             Handle*& slot = order < 0 ? node->left : node->right;
             if (slot == nullptr)
                 return false;
+            if (!node->IsSettled(lower, higher)) [[unlikely]]
+                unsettled = std::min(unsettled, path.Depth());
             path.Push(node, &slot);
             parent = node;
             node = Writable(slot);
@@ -355,7 +392,7 @@ private:
         Handle* replacement = node->TakeReplacement();
         --count;
         RemoveNode(parent, node, replacement);
-        Rebalance(path);
+        Rebalance(path, unsettled);
         return true;
     }
 

@@ -3,7 +3,8 @@
 #include <type_traits>
 
 /// The order of a map's keys. Numbers have their plain order; a key class of another kind specializes this
-/// beside itself.
+/// beside itself. Its specialization may have a `Fetch(key)` too, which starts to load what a key that is
+/// soon compared has elsewhere.
 template <class K>
 class cow_KeyOrder
 {

@@ -30,4 +30,6 @@ public:
             return strnatcmp(a.CString(), b.CString());
         return std::strcmp(a.CString(), b.CString());
     }
+
+    static void Fetch(const cow_String& key) { __builtin_prefetch(key.CString()); }
 };
