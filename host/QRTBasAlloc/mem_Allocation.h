@@ -198,7 +198,7 @@ inline void mem_FreeSized(void* block, std::size_t size) noexcept
 }
 
 /// Gives back many blocks that were made for `size` bytes each, some of them only when it goes: those that
-/// lie side by side go back together.
+/// lie side by side and come in order, either way, go back together.
 template <std::size_t size>
 class mem_FreeMany
 {
@@ -213,13 +213,18 @@ public:
         using namespace mem_detail;
         if constexpr (!slabActive || size > slabLimit)
             return HeapFree(block);
+        constexpr std::size_t step = SlabSize(SlabClass(size));
         const auto address = reinterpret_cast<std::uintptr_t>(block);
-        if (address != end) [[unlikely]]
+        if (address == end)
+            end += step;
+        else if (address + step == first)
+            first = address;
+        else
         {
             FreeRun();
             first = address;
+            end = address + step;
         }
-        end = address + SlabSize(SlabClass(size));
     }
 
 private:
