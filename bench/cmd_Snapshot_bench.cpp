@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -79,6 +80,31 @@ void Restore(benchmark::State& state)
     }
 }
 
+/// Time is that of the snapshots alone, a change before each not counted; reading the clock around each is.
+void SnapshotAfterChange(benchmark::State& state)
+{
+    using Clock = std::chrono::steady_clock;
+    const int objects = static_cast<int>(state.range(0));
+    const int count = static_cast<int>(state.range(1));
+    ddr_ModelHandle model = ModelOf(objects);
+    std::vector<ddr_ModelHandle> snapshots;
+    snapshots.reserve(static_cast<std::size_t>(count));
+    for (auto _ : state)
+    {
+        Clock::duration spent{};
+        for (int i = 0; i < count; ++i)
+        {
+            Change(*model.Get(), objects, i);
+            const Clock::time_point begin = Clock::now();
+            snapshots.push_back(model->Snapshot());
+            spent += Clock::now() - begin;
+        }
+        state.SetIterationTime(std::chrono::duration<double>(spent).count() / count);
+        model.Get()->Restore(*snapshots.front());
+        snapshots.clear();
+    }
+}
+
 /// Time is that of one snapshot and one change. The counters tell what each snapshot keeps for itself: blocks
 /// of memory, and bytes by the growth of the process (which is coarse, and nothing once freed memory is used
 /// again); and, to compare, the blocks of the whole model.
@@ -136,6 +162,7 @@ void SetValues(benchmark::State& state)
 
 BENCHMARK(Snapshot)->Arg(100)->Arg(10000);
 BENCHMARK(Restore)->Arg(100)->Arg(10000);
+BENCHMARK(SnapshotAfterChange)->Args({100, 1000})->Args({10000, 1000})->UseManualTime()->Iterations(20);
 BENCHMARK(Keep)
     ->Args({10000, 1})
     ->Args({10000, 100})

@@ -1,14 +1,18 @@
 #include "cmd_Script.h"
 
 #include "LibraryEnvironment.h"
+#include "cmd_Difference.h"
 #include "cmd_Error.h"
 #include "kamC_AmplitudeContainer.h"
+#include "kamC_Decay.h"
 #include "kamC_Tabular.h"
 #include "mdl_NamedObjects.h"
+#include "mem_Allocation.h"
 #include "omu_ChangeHistory.h"
 #include "thr_ThreadSingleton.h"
 
 #include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
 
 namespace
 {
@@ -553,6 +557,47 @@ TEST_F(Session, AThousandStepsGoBackAndForth)
     EXPECT_EQ("999.0", Run("model.amplitudes['ramp'].data[0][1]"));
 }
 
+/// Lines that are nearly right: one of a few commands with some bytes replaced, left out or put in.
+RC_GTEST_FIXTURE_PROP(Session, AnyLineIsCarriedOutOrRefusedWhole, ())
+{
+    static const std::string lines[] = {
+        "model.amplitudes['ramp'].setValues(smooth=0.25, timeSpan=TOTAL, data=((0.0, 0.0), (1.0, -1e3)))",
+        "model.amplitudes['quake'].baselineCorrection = BaselineCorrection(intervals=[0.5, 1.0])",
+        "model.amplitudes[\"ramp\"].rename(name='it\\'s \\u00fc', replace=True)",
+        "model.DecayAmplitude(name='d', initial=float('nan'))",
+        "del model.amplitudes['ramp']",
+        "model.amplitudes['ramp'].data[1][0]",
+    };
+    Run(makeRamp);
+    Run(makeQuake);
+    std::string line = *rc::gen::elementOf(std::vector<std::string>(std::begin(lines), std::end(lines)));
+    const int edits = *rc::gen::inRange(1, 5);
+    for (int i = 0; i < edits; ++i)
+    {
+        const std::size_t position = *rc::gen::inRange<std::size_t>(0, line.size());
+        const std::size_t removed = *rc::gen::inRange<std::size_t>(0, 3);
+        line.replace(position, removed, *rc::gen::resize(2, rc::gen::arbitrary<std::string>()));
+    }
+    const ddr_ModelHandle before = session.Model()->Snapshot();
+    const std::size_t commands = journal.size();
+    try
+    {
+        Run(line);
+    }
+    catch (const cmd_Error& error)
+    {
+        RC_ASSERT(std::string(error.what()) != "");
+        if (error.Place())
+            RC_ASSERT(cmd_Marked(*error.Place()).find('^') != std::string::npos);
+        RC_ASSERT(cmd_Compare(*before, *session.Model()).empty());
+        RC_ASSERT(journal.size() == commands);
+    }
+    catch (const cmd_RuleError&)
+    {
+        RC_ASSERT(cmd_Compare(*before, *session.Model()).empty());
+    }
+}
+
 TEST(ModelSnapshot, KeepsItsStateWhateverTheModelDoes)
 {
     ddr_Model model;
@@ -571,6 +616,47 @@ TEST(ModelSnapshot, KeepsItsStateWhateverTheModelDoes)
         dynamic_cast<mdl_NamedObjects&>(*model.GetAmplitudes()).RemoveObject("a");
         EXPECT_EQ(1, snapshot->ConstGetAmplitudes()->Size());
     }
+}
+
+TEST(ModelSnapshot, KeepsNoMoreThanWhatChanges)
+{
+    constexpr int objects = 10000;
+    constexpr int snapshotCount = 1000;
+    ddr_ModelHandle handle(new ddr_Model);
+    ddr_Model& model = *handle.Get();
+    auto& amplitudes = dynamic_cast<kamC_AmplitudeContainer&>(*model.GetAmplitudes());
+    const auto nameOf = [](int number) { return cow_String(("a" + std::to_string(number)).c_str()); };
+    const std::size_t empty = mem_BlocksInUse();
+    for (int i = 0; i < objects; ++i)
+        amplitudes.Insert(nameOf(i), new kamC_Decay);
+    const std::size_t whole = mem_BlocksInUse() - empty;
+    std::vector<ddr_ModelHandle> snapshots;
+    snapshots.reserve(snapshotCount);
+
+    const std::size_t before = mem_BlocksInUse();
+    for (int i = 0; i < snapshotCount; ++i)
+        snapshots.push_back(model.Snapshot());
+    EXPECT_LE(mem_BlocksInUse() - before, 2U * snapshotCount) << "what does not change is shared";
+    snapshots.clear();
+    EXPECT_EQ(before, mem_BlocksInUse());
+
+    for (int i = 0; i < snapshotCount; ++i)
+    {
+        snapshots.push_back(model.Snapshot());
+        auto& changed = dynamic_cast<kamC_AmplitudeContainer&>(*model.GetAmplitudes());
+        dynamic_cast<kamC_Decay&>(*changed.Get(nameOf(i * 7 % objects))).initial = i + 1.0;
+    }
+    const std::size_t kept = (mem_BlocksInUse() - before) / snapshotCount;
+    EXPECT_GT(kept, 0U);
+    EXPECT_LT(kept, whole / 200) << "the way to the object that changed, not the model";
+    const auto initialOf = [&](const ddr_Model& of, int number)
+    {
+        const auto& named = dynamic_cast<const kamC_AmplitudeContainer&>(*of.ConstGetAmplitudes());
+        return dynamic_cast<const kamC_Decay&>(*named.ConstGet(nameOf(number))).initial;
+    };
+    EXPECT_EQ(0.0, initialOf(*snapshots[500], 500 * 7));
+    EXPECT_EQ(500.0, initialOf(*snapshots[500], 499 * 7));
+    EXPECT_EQ(501.0, initialOf(model, 500 * 7));
 }
 
 } // namespace
