@@ -27,9 +27,10 @@ dbc_Form::Use UseOf(cls_AttributeType type)
 
 dbc_Form::dbc_Form(std::unique_ptr<rom_ClassPlan> newPlan) : plan(std::move(newPlan))
 {
-    uses.push_back(Use::Uid);
     if (plan->IsCollection())
-        uses.insert(uses.end(), {Use::Integer, Use::Integer, Use::OptionalNumber, Use::OptionalNumber});
+        uses = {Use::Uid, Use::Integer, Use::Integer, Use::OptionalNumber, Use::OptionalNumber};
+    else
+        uses = {Use::Uid};
     if (plan->HasBase())
         uses.push_back(Use::Base);
     for (const rom_AttributePlan& attribute : plan->Attributes())
