@@ -6,6 +6,7 @@
 #include "cls_Value.h"
 #include "cmd_Error.h"
 #include "cmd_Rules.h"
+#include "rom_StoreException.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -95,6 +96,11 @@ int main(int argc, char** argv)
     catch (const cmd_Error& error)
     {
         return Fail(error.what(), app_Unusable, error.Place());
+    }
+    catch (const rom_OldStoreException& error)
+    {
+        return Fail(std::string(error.what()) +
+                    " `vdbattr upgrade OLD NEW` makes a store of this release of it.");
     }
     catch (const std::bad_alloc&)
     {

@@ -163,8 +163,12 @@ void rom_RequireForm(const rfm_Database& database, const rfm_TableInfo& found, c
         raise("The table was written by a newer release: it has version " + std::to_string(found.version) +
               ", and this release knows version " + std::to_string(expected.version) + ".");
     if (found.version < expected.version)
-        raise("The table has the old version " + std::to_string(found.version) +
-              "; the store must be upgraded to version " + std::to_string(expected.version) + " first.");
+    {
+        const std::string message = "The table has the old version " + std::to_string(found.version) +
+                                    "; the store must be upgraded to version " +
+                                    std::to_string(expected.version) + " first.";
+        rom_OldStoreException(database.Path(), found.name, message.c_str()).Throw(__FILE__, __LINE__);
+    }
     if (!(found.name == expected.name))
         raise(std::string("The table should have the name ") + expected.name.CString() + ".");
     if (found.baseClassId != expected.baseClassId)

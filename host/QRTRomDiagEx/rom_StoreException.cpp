@@ -46,3 +46,15 @@ void rom_StoreException::Raise() const
 {
     throw rom_StoreException(*this);
 }
+
+rom_OldStoreException::rom_OldStoreException(const cow_String& storeFile, const cow_String& table,
+                                             const cow_String& message)
+    : rom_StoreException(storeFile, table, NoRow, cow_String(), message)
+{}
+
+rom_OldStoreException::~rom_OldStoreException() = default;
+
+void rom_OldStoreException::Raise() const
+{
+    throw rom_OldStoreException(*this);
+}

@@ -43,3 +43,17 @@ private:
     cow_String field;
     cow_String message;
 };
+
+/// A store that can be read when it is upgraded.
+class OVR_EXPORT rom_OldStoreException : public rom_StoreException
+{
+public:
+    /// `table` has a version below that of its class.
+    rom_OldStoreException(const cow_String& storeFile, const cow_String& table, const cow_String& message);
+    rom_OldStoreException(const rom_OldStoreException&) noexcept = default;
+    rom_OldStoreException& operator=(const rom_OldStoreException&) noexcept = default;
+    ~rom_OldStoreException() override;
+
+protected:
+    [[noreturn]] void Raise() const override;
+};
