@@ -1,5 +1,7 @@
 #include "dbc_OldClassRegistrar.h"
 
+#include <algorithm>
+
 dbc_OldClassRegistrar::dbc_OldClassRegistrar() = default;
 
 dbc_OldClassRegistrar::~dbc_OldClassRegistrar()
@@ -11,4 +13,11 @@ dbc_OldClassRegistrar::~dbc_OldClassRegistrar()
 void dbc_OldClassRegistrar::Register(Holder* holder, unsigned mask)
 {
     versions.push_back({holder, mask});
+}
+
+bool dbc_OldClassRegistrar::Has(const std::type_info& versionClass) const
+{
+    const auto isSame = [&versionClass](const Registration& registration)
+    { return typeid(*registration.holder->ConstGet()) == versionClass; };
+    return std::any_of(versions.begin(), versions.end(), isSame);
 }

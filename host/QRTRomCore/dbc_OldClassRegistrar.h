@@ -4,6 +4,7 @@
 #include "omi_Singleton.h"
 
 #include <cstddef>
+#include <typeinfo>
 #include <vector>
 
 /// Holds all old class versions, in order of registration.
@@ -17,6 +18,9 @@ public:
 
     /// Takes ownership of the holder. The mask is kept as it is given.
     void Register(Holder* holder, unsigned mask);
+
+    /// Whether a version of this very class is registered.
+    bool Has(const std::type_info& versionClass) const;
 
     std::size_t Count() const { return versions.size(); }
 

@@ -21,6 +21,7 @@
 #include "kamC_TypeLabelMap.h"
 #include "kamC_UserAmplitude.h"
 #include "kamC_assert.h"
+#include "kamC_old.h"
 
 namespace
 {
@@ -60,6 +61,7 @@ void QRTVdbKamC_initialize(int& tally)
                         kamC_BaselineCorrectionInAmplitudeShortcut>();
     cls_RegisterClasses<kamC_ActuatorAmplitude, kamC_UserAmplitude, kamC_SpectrumAmplitude,
                         kamC_CorrelationComponent>();
+    kamC_RegisterOldClasses();
     FillCatalogue();
 }
 
