@@ -65,6 +65,16 @@ void rfm_ReferenceColumn::NoteOther(std::int64_t classId, std::int64_t oid)
         *found = {classId, std::min(found->low, oid), std::max(found->high, oid)};
 }
 
+void rfm_RequireKind(const rfm_Database& owner, const rfm_TableForm& form, std::size_t column,
+                     std::int64_t oid, const rfm_Cell& cell)
+{
+    if (Fits(cell, form.columns[column].kind)) [[likely]]
+        return;
+    owner.Raise(cell.IsNull() ? "The cell holds no value."
+                              : "The cell holds another kind of value than its column.",
+                form.name, oid, form.columns[column].name);
+}
+
 rfm_RowCopy::rfm_RowCopy(rfm_Database& database, Plan newPlan, std::vector<rfm_ReferenceColumn>& references,
                          rfm_RowNumbers& numbers)
     : database(database),
@@ -98,6 +108,7 @@ bool rfm_RowCopy::KeepsOrder() const
 void rfm_RowCopy::Run(const std::function<void(std::int64_t)>& newProgress)
 {
     progress = &newProgress;
+    plan.expectsNoNull = plan.expectsNoNull && FitsOneStatement();
     if (FitsOneStatement())
         RunAsOne();
     else
@@ -118,6 +129,8 @@ std::string rfm_RowCopy::SqlOfColumn(std::size_t position, int& parameter) const
         return "?" + std::to_string(parameter++);
     const std::string name = rfm_Quoted(plan.from.columns[static_cast<std::size_t>(column.source)].name);
     if (column.use == rfm_CopyColumn::Use::Number)
+        return name;
+    if (plan.expectsNoNull && (column.use == rfm_CopyColumn::Use::Scalar || plan.changes.empty()))
         return name;
     if (column.use == rfm_CopyColumn::Use::Scalar)
         return "COALESCE(" + name + ",?" + std::to_string(parameter++) + ")";
@@ -149,15 +162,40 @@ void rfm_RowCopy::BindParameters(rfm_Statement& statement) const
     int parameter = 1;
     for (const rfm_CopyColumn& column : plan.columns)
     {
-        if (column.source < 0 || column.use != rfm_CopyColumn::Use::Number)
+        const bool isPlain =
+            column.use == rfm_CopyColumn::Use::Number ||
+            (plan.expectsNoNull && (column.use == rfm_CopyColumn::Use::Scalar || plan.changes.empty()));
+        if (column.source < 0 || !isPlain)
             statement.Bind(parameter++, column.fallback);
     }
 }
 
 void rfm_RowCopy::RunAsOne()
 {
+    const std::vector<rfm_ReferenceColumn> referencesBefore = references;
+    const rfm_RowNumbers numbersBefore = numbers;
+    try
+    {
+        RunStatement();
+    }
+    catch (const rom_StoreException&)
+    {
+        if (!hasMetNull || !plan.expectsNoNull)
+            throw;
+        plan.expectsNoNull = false;
+        references = referencesBefore;
+        numbers = numbersBefore;
+        rfm_Statement(database, "DELETE FROM " + plan.to.SqlName(), plan.to.name).Run();
+        RunStatement();
+    }
+}
+
+void rfm_RowCopy::RunStatement()
+{
+    failure = nullptr;
     int parameter = 1;
-    std::string sql = "INSERT INTO " + plan.to.SqlName() + " (" + rfm_Quoted(plan.to.keyColumn);
+    const char* deed = plan.onConflict == rfm_OnConflict::Replace ? "REPLACE" : "INSERT";
+    std::string sql = std::string(deed) + " INTO " + plan.to.SqlName() + " (" + rfm_Quoted(plan.to.keyColumn);
     for (const rfm_Column& column : plan.to.columns)
         sql += "," + rfm_Quoted(column.name);
     sql += "," + rfm_Quoted(rfm_CheckColumn) + ") SELECT " + rfm_Quoted(plan.from.keyColumn);
@@ -187,7 +225,7 @@ void rfm_RowCopy::RunRowByRow()
     rfm_Statement rows(database,
                        "SELECT " + SqlOfSourceColumns() + " FROM " + plan.from.SqlName() + SqlOfConditions(),
                        plan.from.name);
-    rfm_RowBatch batch(database, plan.to);
+    rfm_RowBatch batch(database, plan.to, plan.onConflict == rfm_OnConflict::Replace ? "REPLACE" : "INSERT");
     std::vector<rfm_Cell> row(target.size() + 2);
     while (rows.Step())
     {
@@ -250,7 +288,7 @@ std::int64_t rfm_RowCopy::Convert(std::int64_t oid, const rfm_Cell& check)
 }
 
 /// What the column's expression in SQL gives as well.
-rfm_Cell rfm_RowCopy::CellOf(std::size_t position, std::int64_t oid, bool& isSame) const
+rfm_Cell rfm_RowCopy::CellOf(std::size_t position, std::int64_t oid, bool& isSame)
 {
     const rfm_CopyColumn& column = plan.columns[position];
     const rfm_ColumnKind kind = plan.to.columns[position].kind;
@@ -261,6 +299,8 @@ rfm_Cell rfm_RowCopy::CellOf(std::size_t position, std::int64_t oid, bool& isSam
             return cell;
         cell = column.fallback;
         isSame = false;
+        if (plan.expectsNoNull && column.source >= 0)
+            RaiseNull(oid, position);
     }
     else if (column.use == rfm_CopyColumn::Use::ClassId && cell.Is(rfm_CellKind::Integer) &&
              column.source >= 0)
@@ -285,8 +325,7 @@ rfm_Cell rfm_RowCopy::CellOf(std::size_t position, std::int64_t oid, bool& isSam
         cell = rfm_Cell::Real(static_cast<double>(cell.integer));
         isSame = false;
     }
-    if (!Fits(cell, kind)) [[unlikely]]
-        RaiseKind(oid, position, cell);
+    rfm_RequireKind(*plan.owner, plan.to, position, oid, cell);
     return cell;
 }
 
@@ -305,9 +344,8 @@ void rfm_RowCopy::RaiseDamaged(std::int64_t oid) const
                       rfm_CheckColumn);
 }
 
-void rfm_RowCopy::RaiseKind(std::int64_t oid, std::size_t column, const rfm_Cell& cell) const
+void rfm_RowCopy::RaiseNull(std::int64_t oid, std::size_t column)
 {
-    plan.owner->Raise(cell.IsNull() ? "The cell holds no value."
-                                    : "The cell holds another kind of value than its column.",
-                      plan.from.name, oid, plan.to.columns[column].name);
+    hasMetNull = true;
+    plan.owner->Raise("The cell holds no value.", plan.from.name, oid, plan.to.columns[column].name);
 }

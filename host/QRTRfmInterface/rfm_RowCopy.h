@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ovr_Export.h"
+#include "rfm_Inserter.h"
 #include "rfm_Statement.h"
 #include "rfm_TableForm.h"
 
@@ -122,6 +123,11 @@ struct rfm_RowNumbers
     bool AreWithoutHoles() const { return count > 0 && high - low == count - 1; }
 };
 
+/// Throws, naming the store, unless a cell holds what its column is declared to; NULL is nothing that it may
+/// hold.
+OVR_EXPORT void rfm_RequireKind(const rfm_Database& owner, const rfm_TableForm& form, std::size_t column,
+                                std::int64_t oid, const rfm_Cell& cell);
+
 /// Copies the rows of one table into another of other columns, within one statement where that can be. Each
 /// row's check number is compared, and the new row gets its own. Rows are refused that hold another kind of
 /// value than their column is declared to.
@@ -140,6 +146,10 @@ public:
         std::vector<rfm_ClassIdChange> changes;
         /// Tables whose rows stand in place of those of the same number here.
         std::vector<rfm_TableForm> coveredBy;
+        rfm_OnConflict onConflict = rfm_OnConflict::Fail;
+        /// That no scalar should be NULL, and nothing was in `to` before: where one is NULL all the same, the
+        /// copy begins anew. Saves SQLite a look at each cell.
+        bool expectsNoNull = false;
     };
 
     /// `references` take the references of the new rows, and `numbers` their numbers; they may be shared by
@@ -165,19 +175,21 @@ private:
     std::string SqlOfSourceColumns() const;
     void BindParameters(rfm_Statement& statement) const;
     void RunAsOne();
+    void RunStatement();
     void RunRowByRow();
     /// Makes the new row of a source row, and returns its check number.
     std::int64_t Convert(std::int64_t oid, const rfm_Cell& check);
-    rfm_Cell CellOf(std::size_t column, std::int64_t oid, bool& isSame) const;
+    rfm_Cell CellOf(std::size_t column, std::int64_t oid, bool& isSame);
+    [[noreturn]] void RaiseNull(std::int64_t oid, std::size_t column);
     void CountRow(std::int64_t oid);
     [[noreturn]] void RaiseDamaged(std::int64_t oid) const;
-    [[noreturn]] void RaiseKind(std::int64_t oid, std::size_t column, const rfm_Cell& cell) const;
 
     rfm_Database& database;
     Plan plan;
     std::vector<rfm_ReferenceColumn>& references;
     rfm_RowNumbers& numbers;
     bool keepsOrder;
+    bool hasMetNull = false;
     const std::function<void(std::int64_t)>* progress = nullptr;
     std::vector<rfm_Cell> source;
     std::vector<rfm_Cell> target;

@@ -1,5 +1,6 @@
 #include "dbc_NewStore.h"
 
+#include "mdl_Repository.h"
 #include "typ_ArchCompTable.h"
 
 #include <algorithm>
@@ -105,18 +106,25 @@ void dbc_NewStore::TakeRoots()
     }
 }
 
+std::vector<rfm_ReferenceColumn> dbc_NewStore::ReferencesOf(const dbc_Form& form)
+{
+    std::vector<rfm_ReferenceColumn> references;
+    for (int i = 0; i < form.CellCount(); ++i)
+    {
+        if (form.UseOf(i) == Use::Base)
+            references.emplace_back(-1, i, form.Table().baseClassId);
+        else if (form.UseOf(i) == Use::ClassId)
+            references.emplace_back(i, i + 1);
+    }
+    return references;
+}
+
 dbc_NewStore::Table& dbc_NewStore::OpenTable(const dbc_Form& form)
 {
     Table& table = tables[form.ClassId()];
     table.form = &form;
     table.physical = rfm_TableForm::Of(form.Table());
-    for (int i = 0; i < form.CellCount(); ++i)
-    {
-        if (form.UseOf(i) == Use::Base)
-            table.references.emplace_back(-1, i, form.Table().baseClassId);
-        else if (form.UseOf(i) == Use::ClassId)
-            table.references.emplace_back(i, i + 1);
-    }
+    table.references = ReferencesOf(form);
     stores.working.CreateTable(form.Table());
     return table;
 }
@@ -134,9 +142,50 @@ dbc_NewStore::Table& dbc_NewStore::TableOf(unsigned classId)
 
 void dbc_NewStore::TakeTable(const dbc_TableState& state)
 {
-    Table& table = OpenTable(*state.form);
-    for (std::size_t i = 0; i < state.layers.size(); ++i)
+    const auto begun = tables.find(state.form->ClassId());
+    Table& table = begun == tables.end() ? OpenTable(*state.form) : begun->second;
+    for (std::size_t i = table.isBegun ? 1 : 0; i < state.layers.size(); ++i)
         CopyLayer(table, state, i);
+}
+
+dbc_Layer dbc_NewStore::BeginTable(const dbc_Form& form)
+{
+    Table& table = OpenTable(form);
+    table.isBegun = true;
+    table.cells.resize(table.physical.columns.size());
+    dbc_Layer layer{table.physical, {}};
+    for (int i = 0; i < form.CellCount(); ++i)
+        layer.source.push_back(i);
+    for (int i = 0; i < form.CellCount(); ++i)
+        table.begunColumns.push_back(ColumnFor(form, layer, i));
+    return layer;
+}
+
+void dbc_NewStore::PutRow(unsigned classId, std::int64_t oid, const rfm_Cell* cells)
+{
+    Table& table = tables.at(classId);
+    for (std::size_t i = 0; i < table.cells.size(); ++i)
+    {
+        const rfm_CopyColumn& column = table.begunColumns[i];
+        const rfm_Cell& cell = cells[i];
+        const bool isEmpty = cell.Is(rfm_CellKind::Unset) || cell.IsNull();
+        const bool isUnset = column.use == rfm_CopyColumn::Use::ClassId && cell.Is(rfm_CellKind::Integer) &&
+                             cell.integer == rfm_UnsetReference;
+        table.cells[i] =
+            isUnset || (isEmpty && column.use == rfm_CopyColumn::Use::Scalar) ? column.fallback : cell;
+        if (isEmpty && column.use != rfm_CopyColumn::Use::Scalar)
+            table.cells[i] = rfm_Cell::Null();
+        else if (!isUnset)
+            rfm_RequireKind(stores.old, table.physical, i, oid, table.cells[i]);
+    }
+    Insert(table, oid, table.cells);
+}
+
+void dbc_NewStore::FlushRows(unsigned classId)
+{
+    Table& table = tables.at(classId);
+    if (table.inserter)
+        table.inserter->Flush();
 }
 
 void dbc_NewStore::CopyLayer(Table& table, const dbc_TableState& state, std::size_t position)
@@ -149,6 +198,9 @@ void dbc_NewStore::CopyLayer(Table& table, const dbc_TableState& state, std::siz
         plan.columns.push_back(ColumnFor(*state.form, layer, i));
     for (std::size_t i = position + 1; i < state.layers.size(); ++i)
         plan.coveredBy.push_back(state.layers[i].physical);
+    plan.onConflict = table.isBegun ? rfm_OnConflict::Replace : rfm_OnConflict::Fail;
+    plan.expectsNoNull = isOld && position == 0 && !table.isBegun;
+    FlushRows(state.form->ClassId());
     rfm_RowCopy(stores.working, std::move(plan), table.references, table.numbers).Run(progress);
 }
 
@@ -175,19 +227,23 @@ rfm_Cell dbc_NewStore::DefaultOf(const dbc_Form& form, int cell)
     return row ? row->cells[cell] : rfm_Cell::Null();
 }
 
-bool dbc_NewStore::NeedsDefaults(const Table& table)
+/// Rows of before the last stage may refer to classes that have ended since.
+bool dbc_NewStore::NeedsPass(const Table& table) const
 {
-    return std::any_of(table.references.begin(), table.references.end(),
-                       [](const rfm_ReferenceColumn& column)
-                       { return column.Unset() > 0 || (column.ClassCell() < 0 && column.Nulls() > 0); });
+    const bool needsDefaults =
+        std::any_of(table.references.begin(), table.references.end(),
+                    [](const rfm_ReferenceColumn& column)
+                    { return column.Unset() > 0 || (column.ClassCell() < 0 && column.Nulls() > 0); });
+    return needsDefaults || (table.isBegun && !changes.empty() && !table.references.empty());
 }
 
 void dbc_NewStore::FillDefaults()
 {
+    Flush();
     std::vector<unsigned> incomplete;
     for (const auto& [classId, table] : tables)
     {
-        if (NeedsDefaults(table))
+        if (NeedsPass(table))
             incomplete.push_back(classId);
     }
     for (const unsigned classId : incomplete)
@@ -200,16 +256,38 @@ void dbc_NewStore::FillTable(Table& table)
     rfm_Cursor cursor(stores.working, table.physical);
     rfm_Inserter replacer(stores.working, table.physical, rfm_OnConflict::Replace);
     std::vector<rfm_Cell> cells(table.physical.columns.size());
+    table.references = ReferencesOf(*table.form);
     for (bool isThere = cursor.SeekFrom(INT64_MIN); isThere; isThere = cursor.Next())
     {
         std::copy_n(cursor.Cells(), cells.size(), cells.begin());
-        if (!FillRow(table, cells))
-            continue;
+        const bool isChanged = ChangeClassIds(table, cells);
+        const bool isFilled = FillRow(table, cells);
         for (rfm_ReferenceColumn& reference : table.references)
             reference.Note(cells.data());
-        replacer.Insert(cursor.Key(), cells.data());
+        if (isChanged || isFilled)
+            replacer.Insert(cursor.Key(), cells.data());
     }
     replacer.Flush();
+}
+
+bool dbc_NewStore::ChangeClassIds(const Table& table, std::vector<rfm_Cell>& cells) const
+{
+    bool isChanged = false;
+    for (const rfm_ReferenceColumn& reference : table.references)
+    {
+        if (reference.ClassCell() < 0)
+            continue;
+        rfm_Cell& classId = cells[static_cast<std::size_t>(reference.ClassCell())];
+        for (const rfm_ClassIdChange& change : changes)
+        {
+            if (!classId.Is(rfm_CellKind::Integer) || classId.integer != change.from)
+                continue;
+            classId.integer = change.to;
+            isChanged = true;
+            break;
+        }
+    }
+    return isChanged;
 }
 
 bool dbc_NewStore::FillRow(Table& table, std::vector<rfm_Cell>& cells)
@@ -391,6 +469,10 @@ void dbc_NewStore::RequireFits(const Table& table, const rfm_ReferenceColumn& co
     {
         const auto id = static_cast<unsigned>(classId);
         if (defaults.PlanOf(id).IsA(attribute->typeId) || typ_ArchCompTable::IsParent(attribute->typeId, id))
+            return;
+        // A wrapper describes its repository as the collection that the repository keeps.
+        const bool isWrapped = attribute->collection != cls_CollectionNone;
+        if (isWrapped && defaults.PlanOf(id).IsA(mdl_Repository::TypeId()))
             return;
     }
     const cow_String& classColumn = table.form->ColumnName(column.ClassCell());

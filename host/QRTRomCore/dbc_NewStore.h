@@ -20,6 +20,11 @@ public:
     /// Copies all arrays of the old store. For before any stage, as stages add arrays.
     void TakeArrays();
     void TakeTable(const dbc_TableState& state);
+    /// Makes the table of a form of this release before any other rows are taken, and returns the layer of
+    /// the rows that are put into it, which `TakeTable` then leaves as they are.
+    dbc_Layer BeginTable(const dbc_Form& form);
+    void PutRow(unsigned classId, std::int64_t oid, const rfm_Cell* cells);
+    void FlushRows(unsigned classId);
     /// For after all tables.
     void TakeElements();
     void TakeRoots();
@@ -35,16 +40,21 @@ private:
         rfm_RowNumbers numbers;
         std::vector<rfm_ReferenceColumn> references;
         std::unique_ptr<rfm_Inserter> inserter; ///< made when it is needed
+        bool isBegun = false;                   ///< has rows from before the last stage
+        std::vector<rfm_CopyColumn> begunColumns;
+        std::vector<rfm_Cell> cells;
     };
 
     Table& OpenTable(const dbc_Form& form);
+    static std::vector<rfm_ReferenceColumn> ReferencesOf(const dbc_Form& form);
     Table& TableOf(unsigned classId);
     void CopyLayer(Table& table, const dbc_TableState& state, std::size_t layer);
     rfm_CopyColumn ColumnFor(const dbc_Form& form, const dbc_Layer& layer, int cell);
     rfm_Cell DefaultOf(const dbc_Form& form, int cell);
     void CopyElements(rfm_Database& owner, const char* schema);
 
-    static bool NeedsDefaults(const Table& table);
+    bool NeedsPass(const Table& table) const;
+    bool ChangeClassIds(const Table& table, std::vector<rfm_Cell>& cells) const;
     void FillTable(Table& table);
     bool FillRow(Table& table, std::vector<rfm_Cell>& cells);
     std::int64_t MakeRow(const dbc_DefaultRow& row);

@@ -121,7 +121,15 @@ dbc_Stage::Output& dbc_Stage::OpenOutput(unsigned classId)
         return output;
     }
     Output& output = NewOutput(classId, {step.to, {}});
-    output.rows->BeginStep();
+    // Rows that have their last form go where they stay.
+    if (step.to == upgrade.plan.Forms().Current(classId))
+        output.rows->BeginStep(
+            upgrade.store.BeginTable(*step.to),
+            [&store = upgrade.store, classId](std::int64_t oid, const rfm_Cell* cells)
+            { store.PutRow(classId, oid, cells); },
+            [&store = upgrade.store, classId] { store.FlushRows(classId); });
+    else
+        output.rows->BeginStep();
     output.step = &step;
     output.progress = Step::Waits;
     return output;

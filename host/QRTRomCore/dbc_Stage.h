@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dbc_ElementTable.h"
+#include "dbc_NewStore.h"
 #include "dbc_Plan.h"
 
 #include <functional>
@@ -25,12 +26,13 @@ struct dbc_UpgradeState
     const dbc_Plan& plan;
     dbc_DatabaseConverter& converter;
     dbc_Tables tables;
-    std::vector<rfm_ClassIdChange> changes;
+    std::vector<rfm_ClassIdChange>& changes;
     dbc_RowNumbers numbers;
     int scratchTables = 0;
     /// Highest row numbers of the two collection classes in the old store.
     std::map<unsigned, std::int64_t> oldCollections;
     std::function<void(std::int64_t)> progress;
+    dbc_NewStore& store;
 };
 
 /// Brings a store to one version: runs the steps that lead there, on what was there before the stage.

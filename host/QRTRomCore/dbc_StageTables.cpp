@@ -23,13 +23,26 @@ dbc_OutputRows::~dbc_OutputRows() = default;
 void dbc_OutputRows::BeginStep()
 {
     dbc_Layer layer = dbc_NewLayer(context, *state.form);
-    step = std::make_unique<rfm_Inserter>(context.stores.working, layer.physical);
+    // Scratch rows live too short to need a check number.
+    auto inserter = std::make_shared<rfm_Inserter>(context.stores.working, layer.physical);
+    BeginStep(
+        std::move(layer),
+        [inserter](std::int64_t oid, const rfm_Cell* row) { inserter->Insert(oid, row, rfm_Cell::Null()); },
+        [inserter] { inserter->Flush(); });
+}
+
+void dbc_OutputRows::BeginStep(dbc_Layer layer, std::function<void(std::int64_t, const rfm_Cell*)> put,
+                               std::function<void()> flush)
+{
+    putStep = std::move(put);
+    flushStep = std::move(flush);
     state.layers.insert(state.layers.begin(), std::move(layer));
 }
 
 void dbc_OutputRows::PutStepRow(const dbc_CellRow& row)
 {
-    Put(*step, row);
+    putStep(row.Oid(), Marked(row));
+    isUnread = true;
 }
 
 dbc_CellRow& dbc_OutputRows::NewRow(std::int64_t oid)
@@ -63,15 +76,16 @@ void dbc_OutputRows::Commit(dbc_CellRow& row)
         others = std::make_unique<rfm_Inserter>(context.stores.working, state.layers.back().physical,
                                                 rfm_OnConflict::Replace);
     }
-    Put(*others, row);
+    others->Insert(row.Oid(), Marked(row), rfm_Cell::Null());
+    isUnread = true;
     // What was edited is read again from now on.
     std::unique_ptr<dbc_CellRow> done = std::move(*found);
     open.erase(found);
     spare.push_back(std::move(done));
 }
 
-/// Scratch rows live too short to need a check number.
-void dbc_OutputRows::Put(rfm_Inserter& inserter, const dbc_CellRow& row)
+/// The row's cells, references that nothing was put into marked as such.
+const rfm_Cell* dbc_OutputRows::Marked(const dbc_CellRow& row)
 {
     const rfm_Cell* from = row.Cells();
     for (std::size_t i = 0; i < cells.size(); ++i)
@@ -81,14 +95,13 @@ void dbc_OutputRows::Put(rfm_Inserter& inserter, const dbc_CellRow& row)
         if (isUnset && state.form->UseOf(static_cast<int>(i)) == dbc_Form::Use::ClassId)
             cells[i] = rfm_Cell::Integer(rfm_UnsetReference);
     }
-    inserter.Insert(row.Oid(), cells.data(), rfm_Cell::Null());
-    isUnread = true;
+    return cells.data();
 }
 
 bool dbc_OutputRows::Flush()
 {
-    if (step)
-        step->Flush();
+    if (flushStep)
+        flushStep();
     if (others)
         others->Flush();
     return std::exchange(isUnread, false);

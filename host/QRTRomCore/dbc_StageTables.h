@@ -5,6 +5,7 @@
 #include "dbc_TableState.h"
 #include "rfm_Inserter.h"
 
+#include <functional>
 #include <map>
 
 /// Gives rows their numbers, so that no two rows of a class share one.
@@ -43,6 +44,9 @@ public:
 
     /// Puts in rows of the table's own step.
     void BeginStep();
+    /// The same, with `put` putting the rows where the layer has them.
+    void BeginStep(dbc_Layer layer, std::function<void(std::int64_t, const rfm_Cell*)> put,
+                   std::function<void()> flush);
     void PutStepRow(const dbc_CellRow& row);
 
     dbc_CellRow& NewRow(std::int64_t oid);
@@ -55,11 +59,12 @@ public:
     bool IsEmpty() const { return state.layers.empty(); }
 
 private:
-    void Put(rfm_Inserter& inserter, const dbc_CellRow& row);
+    const rfm_Cell* Marked(const dbc_CellRow& row);
 
     dbc_StageContext& context;
     dbc_TableState state;
-    std::unique_ptr<rfm_Inserter> step;
+    std::function<void(std::int64_t, const rfm_Cell*)> putStep;
+    std::function<void()> flushStep;
     std::unique_ptr<rfm_Inserter> others;
     bool isUnread = false;
     std::vector<rfm_Cell> cells;

@@ -148,16 +148,18 @@ void dbc_Upgrade::Run(const cow_String& newPath, const Progress& progress)
             progress(std::min(done, upgrade->rowsToDo), upgrade->rowsToDo);
     };
     const dbc_Stores stores{upgrade->old, working};
-    dbc_UpgradeState state{stores, upgrade->plan, upgrade->converter, std::move(upgrade->tables), {}, {}, 0,
-                           {},     count};
-    for (const unsigned collection : {cls_ListTypeId, cls_MapTypeId})
+    std::vector<rfm_ClassIdChange> changes;
     {
-        const auto found = state.tables.find(collection);
-        state.oldCollections[collection] =
-            found == state.tables.end() ? 0 : dbc_LastOid(stores, found->second.state);
-    }
-    {
-        dbc_NewStore store(stores, upgrade->plan.Forms(), state.changes, count);
+        dbc_NewStore store(stores, upgrade->plan.Forms(), changes, count);
+        dbc_UpgradeState state{
+            stores, upgrade->plan, upgrade->converter, std::move(upgrade->tables), changes, {}, 0, {},
+            count,  store};
+        for (const unsigned collection : {cls_ListTypeId, cls_MapTypeId})
+        {
+            const auto found = state.tables.find(collection);
+            state.oldCollections[collection] =
+                found == state.tables.end() ? 0 : dbc_LastOid(stores, found->second.state);
+        }
         store.TakeArrays();
         while (const std::optional<int> stage = NextStage(state.tables))
             dbc_Stage(state, *stage).Run();

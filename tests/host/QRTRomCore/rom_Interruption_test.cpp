@@ -1,15 +1,18 @@
-// Saves that are cut short: at every write, sync, truncation and removal of a file the process is killed, the
-// power fails, or the operation does, until one save gets through. The file then holds the old model or the
-// new one, whole.
+// Saves and upgrades that are cut short: at every write, sync, truncation and removal of a file the process
+// is killed, the power fails, or the operation does, until one gets through. The file then holds the old
+// model or the new one, whole; an upgrade leaves the old file as it was, and no new one or all of it.
 
+#include "dbc_Upgrade.h"
 #include "rom_StoreException.h"
 #include "rom_StoreReader.h"
 #include "rom_StoreWriter.h"
 #include "tst_Store.h"
+#include "tst_Upgrade.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <functional>
 #include <map>
 #include <sqlite3.h>
 #include <sys/wait.h>
@@ -259,15 +262,17 @@ std::unique_ptr<tst_Node> Model(int count)
 class Interruption : public testing::TestWithParam<Fault>
 {
 protected:
-    /// Saves `model` over what is at `path`; true if the fault came before the save was through.
-    bool IsInterrupted(const std::string& path, const tst_Part& model, int operations) const
+    using Deed = std::function<void()>;
+
+    /// Does `deed`, which writes to `path`; true if the fault came before it was through.
+    bool IsInterrupted(const std::string& path, const Deed& deed, int operations) const
     {
         if (GetParam() == Fault::DiskFull || GetParam() == Fault::WriteError)
-            return Fails(path, model, operations);
+            return Fails(path, deed, operations);
         const pid_t child = fork();
         if (child == 0)
         {
-            Fails(path, model, operations);
+            Fails(path, deed, operations);
             _exit(0);
         }
         int status = 0;
@@ -277,13 +282,13 @@ protected:
         return WEXITSTATUS(status) == killedStatus;
     }
 
-    bool Fails(const std::string& path, const tst_Part& model, int operations) const
+    bool Fails(const std::string& path, const Deed& deed, int operations) const
     {
         const FaultyFileSystem fileSystem;
         plan = {GetParam(), operations, false};
         try
         {
-            tst_Save(path, model);
+            deed();
         }
         catch (const rom_StoreException& error)
         {
@@ -310,7 +315,8 @@ TEST_P(Interruption, OfASaveInPlaceLeavesTheOldOrTheNewModel)
     const std::string oldModel = tst_Describe(before.get());
     const std::string newModel = tst_Describe(after.get());
     int operations = 0;
-    while (IsInterrupted(path, *after, operations))
+    while (IsInterrupted(
+        path, [&] { tst_Save(path, *after); }, operations))
     {
         const std::string found = tst_Describe(tst_Load(path).ConstGet());
         EXPECT_TRUE(found == oldModel || found == newModel) << "after " << operations << " operations";
@@ -332,7 +338,8 @@ TEST_P(Interruption, OfANewStoreLeavesNoneOrAllOfIt)
     const std::unique_ptr<tst_Node> model = Model(30);
     const std::string expected = tst_Describe(model.get());
     int operations = 0;
-    while (IsInterrupted(path, *model, operations))
+    while (IsInterrupted(
+        path, [&] { tst_Save(path, *model); }, operations))
     {
         EXPECT_FALSE(std::filesystem::exists(path)) << "after " << operations << " operations";
         ASSERT_LT(++operations, mostOperations);
@@ -340,6 +347,43 @@ TEST_P(Interruption, OfANewStoreLeavesNoneOrAllOfIt)
     EXPECT_GT(operations, 5);
     EXPECT_EQ(expected, tst_Describe(tst_Load(path).ConstGet()));
     EXPECT_EQ("store", folder.Names()) << "what earlier saves left is taken over";
+}
+
+void* RenameLabel(const dbc_Row& input, dbc_Row& output, int)
+{
+    output.PutText(rfm_FieldHandle("label", -1), input.GetText(rfm_FieldHandle("name", -1)));
+    return nullptr;
+}
+
+TEST_P(Interruption, OfAnUpgradeLeavesTheOldFileAndNoNewOneOrAllOfIt)
+{
+    constexpr unsigned classId = 0xFD0001;
+    const tst_Form oldForm{"upg_Shape", classId, 1, cls_RootId, {{"name", cls_TypeText}}};
+    const std::string old = folder / "old";
+    const std::string path = folder / "store";
+    tst_MakeStore(old, {oldForm});
+    // Texts that fill many pages.
+    tst_Execute(old, "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "
+                     "INSERT INTO upg_Shape SELECT i, randomblob(16), printf('%01200d', i), NULL FROM n");
+    const std::string before = tst_ReadFile(old);
+    tst_Release release;
+    release.Had({oldForm, tst_Step("upg_Shape", classId, 1, 2, RenameLabel)});
+    release.Has({"upg_Shape", classId, 2, cls_RootId, {{"label", cls_TypeText}}});
+    int operations = 0;
+    while (IsInterrupted(
+        path, [&] { dbc_Upgrade(old.c_str()).Run(path.c_str()); }, operations))
+    {
+        EXPECT_FALSE(std::filesystem::exists(path)) << "after " << operations << " operations";
+        EXPECT_TRUE(before == tst_ReadFile(old)) << "after " << operations << " operations";
+        ASSERT_LT(++operations, mostOperations);
+    }
+    EXPECT_GT(operations, 200);
+    RecordProperty("operations", operations);
+    EXPECT_EQ("ok", tst_Query(path, "PRAGMA integrity_check"));
+    EXPECT_EQ(tst_QueryAll(old, "SELECT OID, \"##Uid\", name FROM upg_Shape"),
+              tst_QueryAll(path, "SELECT OID, \"##Uid\", label FROM upg_Shape"));
+    EXPECT_TRUE(before == tst_ReadFile(old));
+    EXPECT_EQ("old store", folder.Names());
 }
 
 std::string NameOf(const testing::TestParamInfo<Fault>& info)

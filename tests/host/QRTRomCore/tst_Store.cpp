@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <sqlite3.h>
 #include <stdexcept>
 #include <vector>
@@ -107,8 +106,12 @@ std::string tst_QueryAll(const std::string& path, const std::string& sql)
 
 std::string tst_ReadFile(const std::string& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    const std::streamoff size = file ? static_cast<std::streamoff>(file.tellg()) : 0;
+    std::string content(static_cast<std::size_t>(std::max<std::streamoff>(size, 0)), '\0');
+    file.seekg(0);
+    file.read(content.data(), static_cast<std::streamsize>(content.size()));
+    return content;
 }
 
 void tst_WriteFile(const std::string& path, const std::string& content)

@@ -2,6 +2,7 @@
 
 #include "dbc_DatabaseConverter.h"
 #include "dbc_OldClassVersion.h"
+#include "dbc_Row.h"
 #include "tst_Store.h"
 
 #include <functional>
