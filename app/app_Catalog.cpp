@@ -2,6 +2,7 @@
 
 #include "app_Error.h"
 #include "app_Json.h"
+#include "app_OldVersions.h"
 #include "app_Show.h"
 #include "app_Table.h"
 #include "cls_Module.h"
@@ -258,7 +259,7 @@ cls_Value app_Catalog()
                              {"classes", std::move(classes)},
                              {"enums", std::move(enums)},
                              {"labels", AllLabels()},
-                             {"oldVersions", cls_Value::Array()}};
+                             {"oldVersions", app_OldVersions()}};
 }
 
 std::string app_CatalogJson(const cls_Value& catalog)
@@ -388,6 +389,8 @@ std::string app_CatalogTextOfClass(const cls_Description& description)
         facts.Add({"base", *base.AsText()});
     if (const std::string derived = DerivedText(description); !derived.empty())
         facts.Add({"derived", derived});
+    if (const std::string versions = app_OldVersionsOf(description.Id()); !versions.empty())
+        facts.Add({"older versions", versions});
     for (const cls_Word& word : description.Words())
         facts.Add({word.name, word.word});
     text += facts.Text(2);

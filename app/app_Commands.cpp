@@ -7,9 +7,11 @@
 #include "app_Error.h"
 #include "app_File.h"
 #include "app_Json.h"
+#include "app_Load.h"
 #include "app_Show.h"
 #include "app_Store.h"
 #include "app_Table.h"
+#include "app_Upgrade.h"
 #include "cmd_Difference.h"
 #include "cmd_Error.h"
 #include "cmd_Locate.h"
@@ -617,24 +619,88 @@ class DumpCommand : public Command
 public:
     void AddTo(CLI::App& parser) override
     {
-        parser.footer("A store of any version is shown, also one that cannot be read as a model. Texts stand "
-                      "in quotes,\n"
-                      "bytes as x'00ff', and - for nothing.");
+        parser.footer(
+            "A store of any version is shown, also one that cannot be read as a model. `vdbattr load`\n"
+            "makes the same store of the text again. Exit code: 0 fine, 1 if rows are damaged; they\n"
+            "are printed too, with a comment.");
         parser.add_option("STORE", store, storeHelp)->required();
         AddJson(parser);
     }
 
     int Run() override
     {
-        if (json)
-            app_PrintDumpAsJson(store);
-        else
-            app_PrintDump(store);
+        if (!json)
+            return PrintText();
+        app_PrintDumpAsJson(store);
         return app_Fine;
     }
 
 private:
+    int PrintText() const
+    {
+        const long damaged = app_PrintDump(store);
+        if (damaged == 0)
+            return app_Fine;
+        app_Warn(
+            fmt::format("{}: {} not fit the check number", store, app_Count(damaged, "row does", "rows do")));
+        return app_Findings;
+    }
+
     std::string store;
+};
+
+class LoadCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.footer("Rows are text as `vdbattr dump` prints it, of any version and of any class:\n"
+                      "  vdbattr dump model.vdb > model.rows\n"
+                      "  vdbattr load model.rows copy.vdb\n"
+                      "Check numbers are made anew, and identities where the text has none. Text that is\n"
+                      "refused leaves no trace.");
+        parser.add_option("ROWS", rows, "Rows as text")->required();
+        parser.add_option("STORE", store, "Stored model to make")->required();
+        parser.add_flag("--force", force, forceHelp);
+    }
+
+    int Run() override
+    {
+        app_Load(rows, store, app_SaveModeFor(store, force));
+        return app_Fine;
+    }
+
+private:
+    std::string rows;
+    std::string store;
+    bool force = false;
+};
+
+class UpgradeCommand : public Command
+{
+public:
+    void AddTo(CLI::App& parser) override
+    {
+        parser.footer("  vdbattr upgrade --dry-run old.vdb    what would be done\n"
+                      "  vdbattr upgrade old.vdb new.vdb\n"
+                      "The old file stays as it is. The new one is there when it is complete and checked.");
+        parser.add_option("OLD", oldStore, "Stored model of this or an older release")->required();
+        parser.add_option("NEW", newStore, "Stored model to make; there must be no such file");
+        parser.add_flag("--dry-run", options.dryRun, "Make nothing, tell what would be done");
+        AddJson(parser);
+    }
+
+    int Run() override
+    {
+        options.json = json;
+        app_Upgrade(oldStore, newStore, options);
+        return app_Fine;
+    }
+
+private:
+    std::string oldStore;
+    std::string newStore;
+    app_UpgradeOptions options;
 };
 
 template <class C>
@@ -664,5 +730,7 @@ void app_AddCommands(CLI::App& parser, int& exitCode)
     Add<EditCommand>(parser, exitCode, "edit", "Carry out commands as they are typed, with undo and redo");
     Add<DiffCommand>(parser, exitCode, "diff", "Show what differs between two models");
     Add<CheckCommand>(parser, exitCode, "check", "Check objects by the rules of their classes");
+    Add<UpgradeCommand>(parser, exitCode, "upgrade", "Make a stored model of this release of an older one");
     Add<DumpCommand>(parser, exitCode, "dump", "Print the tables of a stored model, row by row");
+    Add<LoadCommand>(parser, exitCode, "load", "Make a stored model of rows as text, of any version");
 }

@@ -2,11 +2,11 @@
 
 #include "app_File.h"
 #include "app_Json.h"
-#include "app_Table.h"
 #include "cls_Types.h"
 #include "rfm_Cursor.h"
 #include "rfm_Database.h"
 #include "rfm_ElementStore.h"
+#include "rfm_StoreText.h"
 
 #include <limits>
 #include <memory>
@@ -121,7 +121,8 @@ Table ReadElements(rfm_Database& database)
         elements.columns.emplace_back(rfm_Elements::columns[column]);
     for (const rfm_TableInfo& table : database.Tables())
     {
-        if (table.classId == cls_ListTypeId || table.classId == cls_MapTypeId)
+        const bool isCollection = table.classId == cls_ListTypeId || table.classId == cls_MapTypeId;
+        if (isCollection && database.HasTable(rfm_Elements::name))
             AddElements(elements, database, table);
     }
     return elements;
@@ -166,6 +167,8 @@ Table ReadArrays(rfm_Database& database)
 {
     const rfm_TableForm form = rfm_TableForm::Arrays();
     Table arrays{form.name.CString(), {"Handle", "Type", "Length", "Values"}, {}};
+    if (!database.HasTable(form.name))
+        return arrays;
     ForEachRow(database, form,
                [&](const rfm_Cursor& cursor)
                {
@@ -174,44 +177,6 @@ Table ReadArrays(rfm_Database& database)
                                           ArrayValue(database, cursor.Key(), cells[0], cells[2])});
                });
     return arrays;
-}
-
-std::string Title(const rfm_TableInfo& table)
-{
-    const std::string base =
-        table.baseClassId == cls_RootId ? "" : fmt::format(", base {}", IdText(table.baseClassId));
-    return fmt::format("class {}, version {}{}", IdText(table.classId), table.version, base);
-}
-
-std::string CellText(const std::string& column, const cls_Value& value)
-{
-    if (value.IsNull())
-        return "-";
-    if (IsClassIdColumn(column) && value.AsText())
-        return *value.AsText();
-    if (const cls_Value* blob = value.Find("blob"))
-        return fmt::format("x'{}'", *blob->AsText());
-    std::string text = app_WriteJson(value, app_JsonLayout::OneLine);
-    // A whole number that is stored as a real one shows that it is.
-    if (value.AsDouble() && text.find_first_of(".e") == std::string::npos)
-        text += ".0";
-    return text;
-}
-
-void Print(const Table& table, const std::string& title)
-{
-    app_Print(fmt::format("{}{}{} ({})\n", table.name, title.empty() ? "" : ": ", title,
-                          app_Count(static_cast<long>(table.rows.size()), "row")));
-    app_Table text(std::vector<app_Table::Align>(table.columns.size(), app_Table::Align::Left));
-    text.Add(table.columns);
-    for (const Row& row : table.rows)
-    {
-        std::vector<std::string> cells;
-        for (std::size_t i = 0; i < row.size(); ++i)
-            cells.push_back(CellText(table.columns[i], row[i]));
-        text.Add(std::move(cells));
-    }
-    app_Print((table.rows.empty() ? "" : text.Text(2)) + '\n');
 }
 
 cls_Value ValueOf(const Table& table)
@@ -224,17 +189,10 @@ cls_Value ValueOf(const Table& table)
 
 } // namespace
 
-void app_PrintDump(const std::string& path)
+long app_PrintDump(const std::string& path)
 {
     rfm_Database database(path.c_str(), rfm_Access::Read);
-    app_Print(path + "\n\n");
-    Print(ReadTable(database, rfm_TableForm::Roots()), "");
-    for (const rfm_TableInfo& table : database.Tables())
-        Print(ReadTable(database, rfm_TableForm::Of(table)), Title(table));
-    Print(ReadElements(database), "");
-    Print(ReadArrays(database), "");
-    for (const cow_String& name : database.ForeignParts())
-        app_Print(fmt::format("{}: no part of a store, not read\n", name.CString()));
+    return rfm_WriteStoreText(database, [](std::string_view text) { app_Print(std::string(text)); });
 }
 
 void app_PrintDumpAsJson(const std::string& path)

@@ -6,8 +6,9 @@
 // of collections, the arrays, and the names of what the store holds. Nothing is built of it, so a store that
 // no longer or not yet fits the classes is shown too. Throws `rom_StoreException`.
 
-/// Prints them as tables: texts in quotes, bytes as x'00ff', arrays as their numbers, "-" for nothing.
-void app_PrintDump(const std::string& path);
+/// Prints them as text of which `app_Load` makes the same store. Returns how many rows are damaged; they are
+/// printed too, with a comment.
+long app_PrintDump(const std::string& path);
 
-/// Prints them as JSON: texts as texts, bytes as {"blob": "00ff"}.
+/// Prints them as JSON: texts as texts, bytes as {"blob": "00ff"}. Throws for a damaged row.
 void app_PrintDumpAsJson(const std::string& path);

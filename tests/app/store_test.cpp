@@ -289,9 +289,9 @@ TEST_F(Store, IsDumpedRowByRow)
     const Answer text = RunProgram({"dump", store});
     EXPECT_EQ(0, text.exitCode) << text.err;
     for (const char* part :
-         {"rom_Root (1 row)\n", "\nkamC_Tabular: class 0x2440008, version 424, base 0x2440002 (1 row)\n",
-          "\nkamC_Amplitude: class 0x2440002, version 430 (2 rows)\n", "\"STEP\"", "1.7976931348623157e308",
-          "0x230001", "[0, 0, 1, 1]"})
+         {"rom_Root  -- 1 row\n", "\nkamC_Tabular: class 0x2440008, version 424, base 0x2440002  -- 1 row\n",
+          "\nkamC_Amplitude: class 0x2440002, version 430  -- 2 rows\n", "\"STEP\"",
+          "1.7976931348623157e+308", "0x230001", "[0, 0, 1, 1]"})
         EXPECT_THAT(text.out, HasSubstr(part));
 
     const auto dump = nlohmann::json::parse(RunProgram({"dump", store, "--json"}).out);
