@@ -64,10 +64,11 @@ void Describe(cls_ClassMetadata& metadata, const char* timeName)
 
 void* RenameTime(const dbc_Row& input, dbc_Row& output, int)
 {
-    const rfm_FieldHandle timeSpan("timeSpan", -1);
+    static const rfm_FieldHandle timeSpan("timeSpan", -1);
+    static const rfm_FieldHandle time("time", -1);
     if (input.HasField(timeSpan) && input.HasValue(timeSpan))
         return nullptr;
-    output.PutText(timeSpan, input.GetText(rfm_FieldHandle("time", -1)));
+    output.PutText(timeSpan, input.GetText(time));
     return nullptr;
 }
 
