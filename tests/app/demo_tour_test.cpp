@@ -19,7 +19,9 @@ TEST(DemoTour, FindsEverythingAsItExpects)
           "~ model.amplitudes['ramp'] (kamC_Tabular)\n    smooth: 0.25 -> SOLVER_DEFAULT\n",
           "did you mean 'blow'?\n  model.amplitudes['bolw']\n                  ^~~~~~~~\n",
           "quake.vdb and again.vdb hold the same model.", "+ model.amplitudes['blow'] (kamC_Decay)\n",
-          "That was the tour."})
+          "kamC_Amplitude      12 rows  from 203  to 430  by 208, 424 (Upgrade_kamC_Amplitude_208_424), "
+          "430\n",
+          "new.vdb: 5 of 20 tables upgraded", "That was the tour."})
         EXPECT_THAT(ContentOf(out), testing::HasSubstr(part));
 }
 
