@@ -12,7 +12,7 @@
 namespace
 {
 /// Values longer than this do not push the ones behind them aside in every row.
-constexpr std::size_t widestColumn = 24;
+constexpr std::size_t widestColumn = 40;
 constexpr std::string_view gap = "  ";
 
 /// Characters that a text of UTF-8 takes.

@@ -1,5 +1,6 @@
 #include "rfm_StoreText.h"
 
+#include "TemporaryFolder.h"
 #include "rfm_CellText.h"
 #include "rfm_Database.h"
 #include "rfm_Inserter.h"
@@ -12,8 +13,6 @@
 #include <rapidcheck/gtest.h>
 
 #include <bit>
-#include <filesystem>
-#include <fstream>
 #include <limits>
 #include <string>
 #include <vector>
@@ -24,27 +23,6 @@ namespace
 {
 
 using testing::HasSubstr;
-
-/// A folder of its own, gone when the test ends.
-class Folder
-{
-public:
-    Folder()
-    {
-        std::string pattern = (std::filesystem::temp_directory_path() / "ovr-text-XXXXXX").string();
-        path = mkdtemp(pattern.data());
-    }
-
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-    ~Folder() { std::filesystem::remove_all(path); }
-
-    std::string operator/(const std::string& name) const { return (path / name).string(); }
-    bool IsEmpty() const { return std::filesystem::is_empty(path); }
-
-private:
-    std::filesystem::path path;
-};
 
 std::string TextOf(const std::string& store, const rfm_StoreTextOptions& options = {})
 {
@@ -106,14 +84,14 @@ std::vector<std::string> RawRows(const std::string& store)
 /// The message with which a text is refused, without the name of the file; empty if it is taken.
 std::string Refusal(const std::string& text)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     try
     {
         rfm_MakeStoreOfText(folder / "made", text, "FILE");
     }
     catch (const rom_StoreException& error)
     {
-        EXPECT_TRUE(folder.IsEmpty()) << "something is left of what was refused";
+        EXPECT_TRUE(folder.Names().empty()) << "something is left of what was refused";
         const std::string message = error.what();
         EXPECT_EQ(0u, message.find("FILE:")) << message;
         return message.substr(std::min<std::size_t>(5, message.size()));
@@ -159,7 +137,7 @@ std::string Table(const std::string& title, const std::string& row)
 
 TEST(StoreText, ComesBackAsTheSameText)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     rfm_MakeStoreOfText(folder / "one", sample, "sample");
     const std::string text = TextOf(folder / "one");
     rfm_MakeStoreOfText(folder / "two", text, "text");
@@ -169,7 +147,7 @@ TEST(StoreText, ComesBackAsTheSameText)
 
 TEST(StoreText, HasTablesByAscendingClass)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     rfm_MakeStoreOfText(
         folder / "one",
         "B: class 2, version 1\n  OID x:integer\n  1 5\n\nA: class 1, version 1, base 0x2\n  OID\n",
@@ -181,7 +159,7 @@ TEST(StoreText, HasTablesByAscendingClass)
 
 TEST(StoreText, HoldsWhatAStoreHolds)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     rfm_MakeStoreOfText(folder / "one", sample, "sample");
     rfm_Database database((folder / "one").c_str(), rfm_Access::Read);
     ASSERT_EQ(3u, database.Tables().size());
@@ -226,7 +204,7 @@ TEST(StoreText, HoldsWhatAStoreHolds)
 
 TEST(StoreText, MakesIdentitiesUpAlwaysAlikeAndAllDifferent)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     const std::string rows =
         "A: class 1, version 1\n  OID\n  1\n  2\nB: class 2, version 1\n  OID\n  1\n  2\n";
     rfm_MakeStoreOfText(folder / "one", rows, "rows");
@@ -248,7 +226,7 @@ TEST(StoreText, MakesIdentitiesUpAlwaysAlikeAndAllDifferent)
 
 TEST(StoreText, ShowsIdentitiesThatAreNotMadeUp)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     const std::string text = "A: class 0x1, version 1  -- 1 row\n  OID  ##Uid  x:integer\n"
                              "  1    x'00112233445566778899aabbccddeeff'  5\n";
     rfm_MakeStoreOfText(folder / "one", text, "rows");
@@ -259,7 +237,7 @@ TEST(StoreText, ShowsIdentitiesThatAreNotMadeUp)
 
 TEST(StoreText, KeepsTablesWithoutIdentities)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     const std::string text = "A: class 0x1, version 1, no uids  -- 1 row\n  OID  x:integer\n  1    5\n";
     rfm_MakeStoreOfText(folder / "one", text, "rows");
     EXPECT_EQ(text, TextOf(folder / "one"));
@@ -269,7 +247,7 @@ TEST(StoreText, KeepsTablesWithoutIdentities)
 
 TEST(StoreText, KeepsRowsWithoutCheckNumber)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     const std::string text = "A: class 0x1, version 1, check=-  -- 2 rows\n  OID  x:integer\n"
                              "  1    5          check=-\n  2    6\n";
     rfm_MakeStoreOfText(folder / "one", text, "rows");
@@ -281,7 +259,7 @@ TEST(StoreText, KeepsRowsWithoutCheckNumber)
 
 TEST(StoreText, MarksDamagedRowsAndKeepsThem)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     rfm_MakeStoreOfText(folder / "one", sample, "sample");
     Execute(folder / "one", "UPDATE nobody_Knows SET count = 5 WHERE OID = 7;"
                             "UPDATE rom_Element SET Position = 4 WHERE Position = 1;"
@@ -301,7 +279,7 @@ TEST(StoreText, MarksDamagedRowsAndKeepsThem)
 
 TEST(StoreText, ReadsStoresThatLackTablesOfTheirOwn)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     rfm_MakeStoreOfText(folder / "one", "A: class 0x1, version 1\n  OID\n  1\n", "rows");
     Execute(folder / "one", "DROP TABLE rom_Element; DROP TABLE rfm_Array");
     EXPECT_EQ("A: class 0x1, version 1  -- 1 row\n  OID\n  1\n", TextOf(folder / "one"));
@@ -309,7 +287,7 @@ TEST(StoreText, ReadsStoresThatLackTablesOfTheirOwn)
 
 TEST(StoreText, TellsOfPartsThatAreNoneOfAStore)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     rfm_MakeStoreOfText(folder / "one", "A: class 0x1, version 1\n  OID\n", "rows");
     Execute(folder / "one", "CREATE TABLE notes (t); INSERT INTO notes VALUES ('x')");
     const std::string text = TextOf(folder / "one");
@@ -319,7 +297,7 @@ TEST(StoreText, TellsOfPartsThatAreNoneOfAStore)
 
 TEST(StoreText, MayBeWrittenLoosely)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     rfm_MakeStoreOfText(folder / "one",
                         "-- a comment\r\n\r\nA:class 1,version 0x10,base 2 -- what it is\r\n"
                         "\tOID   ##BaseClassOID x:real   \"odd name\":text r:object s#OID:any\r\n"
@@ -411,7 +389,7 @@ TEST(StoreText, RefusesNamesThatSqlCannotHave)
 
 TEST(StoreText, IsNotReplacedByALaterOne)
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     rfm_MakeStoreOfText(folder / "one", sample, "sample");
     const std::string before = TextOf(folder / "one");
     EXPECT_THROW(rfm_MakeStoreOfText(folder / "one", "", "empty"), rom_StoreException);
@@ -489,7 +467,7 @@ rc::Gen<AnyCell> AnyCells()
 /// Whatever a store holds, in whichever column, with the right check number, a wrong one or none, comes back.
 RC_GTEST_PROP(StoreTextProperty, KeepsEveryRow, ())
 {
-    const Folder folder;
+    const TemporaryFolder folder;
     const rfm_TableInfo table{"t",
                               0x7F0001,
                               1,
