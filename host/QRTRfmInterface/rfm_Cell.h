@@ -70,7 +70,8 @@ private:
     static rfm_Cell Bytes(rfm_CellKind kind, const char* data, std::size_t size)
     {
         rfm_Cell cell;
-        cell.bytes = data;
+        // SQLite hands out null for nothing, and takes null for NULL.
+        cell.bytes = data ? data : "";
         cell.size = static_cast<std::uint32_t>(size);
         cell.kind = kind;
         return cell;

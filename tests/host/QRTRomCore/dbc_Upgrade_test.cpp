@@ -207,6 +207,19 @@ INSTANTIATE_TEST_SUITE_P(
              "INSERT INTO upg_Shape VALUES (1, x'00', 21, 0.0, 1, 'text', NULL)",
              "SELECT hex(value) FROM upg_Shape",
              "0000000000000080"},
+        Case{"EmptyTextStays",
+             [](tst_Release& release)
+             {
+                 release.Had({Shape(1, {nameAttribute, flagAttribute}),
+                              tst_Step("upg_Shape", shapeId, 1, 2, RenameLabel)});
+                 release.Had({Shape(2, {labelAttribute, flagAttribute}),
+                              tst_Step("upg_Shape", shapeId, 2, 3, RenameLabel)});
+                 release.Has(Shape(3, {labelAttribute}));
+             },
+             {Shape(1, {nameAttribute, flagAttribute})},
+             "INSERT INTO upg_Shape VALUES (1, x'00', '', 0, NULL)",
+             "SELECT typeof(label) || length(label) FROM upg_Shape",
+             "text0"},
         Case{"BaseRowsStay",
              [](tst_Release& release)
              {
