@@ -167,7 +167,6 @@ TEST_F(Edit, PrintsValuesAsScriptsWriteThemAndAsJson)
         const char* text;
         const char* json;
     } rows[] = {
-        {"model", "('amplitudes',)", "[\"amplitudes\"]"},
         {"amplitudes", "('ramp',)", "[\"ramp\"]"},
         {"amplitudes['ramp'].timeSpan", "STEP", "\"STEP\""},
         {"amplitudes['ramp'].smooth", "SOLVER_DEFAULT", "1.7976931348623157e308"},
@@ -180,6 +179,8 @@ TEST_F(Edit, PrintsValuesAsScriptsWriteThemAndAsJson)
         EXPECT_EQ(row.text + std::string("\n"), RunProgram({"get", store, row.path}).out);
         EXPECT_EQ(row.json + std::string("\n"), RunProgram({"get", store, row.path, "--json"}).out);
     }
+    EXPECT_THAT(RunProgram({"get", store, "model"}).out, HasSubstr("'amplitudes', "));
+    EXPECT_THAT(RunProgram({"get", store, "model", "--json"}).out, HasSubstr("\"amplitudes\", "));
     EXPECT_EQ("TabularAmplitude(name='ramp', timeSpan=STEP, smooth=SOLVER_DEFAULT, "
               "data=((0.0, 0.0), (1.0, 1.0)), baselineCorrection=None)\n",
               RunProgram({"get", store, "model.amplitudes['ramp']"}).out);

@@ -1,0 +1,4 @@
+#include "karC_Shortcuts.h"
+
+template class ddr_ShortcutImpl<karC_RemeshingRule>;
+template class ddr_Shortcut<karC_RemeshingRule>;
