@@ -49,6 +49,12 @@ dbc_Form::dbc_Form(std::unique_ptr<rom_ClassPlan> newPlan) : plan(std::move(newP
     }
 }
 
+dbc_Form::dbc_Form(std::unique_ptr<const cls_ClassMetadata> newDescription)
+    : dbc_Form(rom_ClassPlan::Of(*newDescription))
+{
+    description = std::move(newDescription);
+}
+
 /// Names of one table differ in length and letters enough for so little to tell them apart.
 std::size_t dbc_Form::Hash(std::string_view name)
 {

@@ -29,6 +29,8 @@ public:
     };
 
     explicit dbc_Form(std::unique_ptr<rom_ClassPlan> plan);
+    /// A form that no class has described: keeps its description.
+    explicit dbc_Form(std::unique_ptr<const cls_ClassMetadata> description);
 
     const rom_ClassPlan& Plan() const { return *plan; }
     const rfm_TableInfo& Table() const { return plan->Table(); }
@@ -54,6 +56,7 @@ private:
         Field field;
     };
 
+    std::unique_ptr<const cls_ClassMetadata> description; ///< null where the plan is of a class's own
     std::unique_ptr<rom_ClassPlan> plan;
     std::vector<Use> uses;
     std::vector<Entry> entries; ///< open addressing, a power of two

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <set>
 
 namespace
 {
@@ -12,6 +13,25 @@ std::string NameAndId(const rfm_TableInfo& table)
     char id[16];
     std::snprintf(id, sizeof id, "0x%X", table.classId);
     return std::string(table.name.CString()) + " (" + id + ")";
+}
+
+/// Whether a table has any of the columns in which a form keeps an attribute.
+bool HasColumnOf(const rfm_TableInfo& table, const dbc_Form& form, const rom_AttributePlan& attribute)
+{
+    const auto has = [&](int cell)
+    {
+        return std::any_of(table.columns.begin(), table.columns.end(),
+                           [&](const rfm_Column& column) { return column.name == form.ColumnName(cell); });
+    };
+    return has(attribute.cell) || (attribute.type == cls_TypeObject && has(attribute.cell + 1));
+}
+
+std::vector<const rom_AttributePlan*> AttributesOf(const dbc_Form& form)
+{
+    std::vector<const rom_AttributePlan*> attributes;
+    for (const rom_AttributePlan& attribute : form.Plan().Attributes())
+        attributes.push_back(&attribute);
+    return attributes;
 }
 } // namespace
 
@@ -112,15 +132,92 @@ const dbc_Form& dbc_Plan::FormOf(const rfm_TableInfo& table) const
     if (!form)
         raise("No release has stored the class " + NameAndId(table) + " with version " +
               std::to_string(table.version) + ".");
-    rom_RequireForm(store, table, form->Table());
     return *form;
+}
+
+bool dbc_Plan::IsCurrent(const dbc_Form& form) const
+{
+    const dbc_Form* current = forms.Current(form.ClassId());
+    return current && current->Version() == form.Version();
+}
+
+dbc_PlannedTable dbc_Plan::PlanTable(const rfm_TableInfo& table)
+{
+    const dbc_Form& form = FormOf(table);
+    dbc_PlannedTable planned{&form, StepsFrom(form)};
+    if (!IsCurrent(form))
+        FitTo(table, planned);
+    rom_RequireForm(store, table, planned.form->Table());
+    return planned;
+}
+
+/// Gives the table's form the attributes that the table has, and the forms on its way those that it has
+/// before their time.
+void dbc_Plan::FitTo(const rfm_TableInfo& table, dbc_PlannedTable& planned)
+{
+    std::vector<EarlyAttribute> early = EarlyAttributesOf(table, planned);
+    std::vector<const rom_AttributePlan*> attributes = AttributesOf(*planned.form);
+    std::erase_if(attributes, [&](const rom_AttributePlan* attribute)
+                  { return !HasColumnOf(table, *planned.form, *attribute); });
+    planned.form = FormWith(*planned.form, attributes, early);
+    const dbc_Form* from = planned.form;
+    for (std::size_t i = 0; i < planned.steps.size(); ++i)
+    {
+        dbc_PlannedStep& step = planned.steps[i];
+        step.from = from;
+        if (!step.to)
+            return;
+        std::erase_if(early, [i](const EarlyAttribute& each) { return each.owner == i; });
+        step.to = FormWith(*step.to, AttributesOf(*step.to), early);
+        from = step.to;
+    }
+}
+
+/// An attribute belongs to the first form on the way that has one of its name.
+std::vector<dbc_Plan::EarlyAttribute> dbc_Plan::EarlyAttributesOf(const rfm_TableInfo& table,
+                                                                  const dbc_PlannedTable& planned)
+{
+    std::set<std::string_view> known;
+    for (const rom_AttributePlan& attribute : planned.form->Plan().Attributes())
+        known.insert(attribute.field.Name().View());
+    std::vector<EarlyAttribute> early;
+    for (std::size_t i = 0; i < planned.steps.size() && planned.steps[i].to; ++i)
+    {
+        const dbc_Form& form = *planned.steps[i].to;
+        for (const rom_AttributePlan& attribute : form.Plan().Attributes())
+        {
+            const bool isNew = known.insert(attribute.field.Name().View()).second;
+            if (isNew && HasColumnOf(table, form, attribute))
+                early.push_back({&attribute, i});
+        }
+    }
+    return early;
+}
+
+/// The form with these of its attributes, and early ones behind them.
+const dbc_Form* dbc_Plan::FormWith(const dbc_Form& form,
+                                   const std::vector<const rom_AttributePlan*>& attributes,
+                                   const std::vector<EarlyAttribute>& early)
+{
+    if (attributes.size() == form.Plan().Attributes().size() && early.empty())
+        return &form;
+    auto description = std::make_unique<cls_ClassMetadata>(form.Name(), form.ClassId(), form.Version(),
+                                                           nullptr, form.Table().baseClassId);
+    const auto add = [&description](const rom_AttributePlan& attribute)
+    { description->AddAttribute(attribute.field, attribute.type, attribute.typeId, attribute.collection); };
+    for (const rom_AttributePlan* attribute : attributes)
+        add(*attribute);
+    for (const EarlyAttribute& each : early)
+        add(*each.attribute);
+    fittedForms.push_back(std::make_unique<dbc_Form>(std::move(description)));
+    return fittedForms.back().get();
 }
 
 std::vector<dbc_PlannedStep> dbc_Plan::StepsFrom(const dbc_Form& start) const
 {
     std::vector<dbc_PlannedStep> chain;
     const dbc_Form* form = &start;
-    while (form && form != forms.Current(form->ClassId()))
+    while (form && !IsCurrent(*form))
     {
         const auto found = steps.find({form->ClassId(), form->Version()});
         if (found == steps.end())
@@ -172,7 +269,7 @@ const dbc_Form* dbc_Plan::Destination(const dbc_Form& form, const dbc_ClassConve
         raise("which lies beyond the class's own version " + std::to_string(current->Version()));
     const dbc_Form* to = target == form.Version() ? forms.FormAfter(form.ClassId(), target)
                                                   : forms.FormAt(form.ClassId(), target);
-    const bool leadsOn = to && to != &form;
+    const bool leadsOn = to && to->Version() != form.Version();
     if (!leadsOn && !IsDeleted(form.ClassId()) && SuccessorOf(form) == 0)
         raise("at which the class has no other form");
     return leadsOn ? to : nullptr;

@@ -43,6 +43,14 @@ struct dbc_PlannedStep
     unsigned successor; ///< the class whose table the rows join then; 0 if none does
 };
 
+/// A table of a store: the form in which its rows lie, and the steps that lead to the current form or the
+/// class's end.
+struct dbc_PlannedTable
+{
+    const dbc_Form* form;
+    std::vector<dbc_PlannedStep> steps;
+};
+
 /// Finds the steps by which tables become what this release has.
 class dbc_Plan
 {
@@ -52,9 +60,11 @@ public:
 
     const dbc_Forms& Forms() const { return forms; }
 
-    /// The form of a table that was found in a store. Throws if nobody knows the class or the version, or the
-    /// table has not the columns of that form.
-    const dbc_Form& FormOf(const rfm_TableInfo& table) const;
+    /// Plans the way of a table that was found in a store. A table of an old version may lack attributes of
+    /// that version, and may have some of later ones, which stay until the form that has them. Throws if
+    /// nobody knows the class or the version, the table has a column that none of these forms has, or there
+    /// are not the steps. The plan keeps the forms that it makes for the table.
+    dbc_PlannedTable PlanTable(const rfm_TableInfo& table);
     /// The steps of a table in a form, up to the current form or the class's end. Throws if a step is missing
     /// or there are two.
     std::vector<dbc_PlannedStep> StepsFrom(const dbc_Form& form) const;
@@ -66,6 +76,20 @@ private:
         const dbc_ClassConverter* converter;
     };
 
+    /// An attribute that a table has before its time, and the step that leads to the form which has it.
+    struct EarlyAttribute
+    {
+        const rom_AttributePlan* attribute;
+        std::size_t owner;
+    };
+
+    const dbc_Form& FormOf(const rfm_TableInfo& table) const;
+    bool IsCurrent(const dbc_Form& form) const;
+    void FitTo(const rfm_TableInfo& table, dbc_PlannedTable& planned);
+    static std::vector<EarlyAttribute> EarlyAttributesOf(const rfm_TableInfo& table,
+                                                         const dbc_PlannedTable& planned);
+    const dbc_Form* FormWith(const dbc_Form& form, const std::vector<const rom_AttributePlan*>& attributes,
+                             const std::vector<EarlyAttribute>& early);
     const Step& OnlyStep(const dbc_Form& form, const std::vector<Step>& found) const;
     const dbc_Form* Destination(const dbc_Form& form, const dbc_ClassConverter& converter) const;
     unsigned SuccessorOf(const dbc_Form& form) const;
@@ -75,6 +99,7 @@ private:
     const rfm_Database& store;
     dbc_DatabaseConverter& converter;
     dbc_Forms forms;
+    std::vector<std::unique_ptr<dbc_Form>> fittedForms;
     std::map<std::pair<unsigned, int>, std::vector<Step>> steps;
     std::map<std::pair<unsigned, int>, dbc_OldClassVersion*> versions;
 };

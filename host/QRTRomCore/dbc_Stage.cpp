@@ -339,12 +339,13 @@ void dbc_Stage::JoinTemps()
         dbc_TableState& state = found->second.state;
         if (added.layers.empty())
             continue;
-        if (state.form != added.form)
+        if (state.form->Version() != added.form->Version())
             upgrade.stores.old.Raise("A conversion makes rows of version " + std::to_string(place.second) +
                                          " when the table is at version " +
                                          std::to_string(state.form->Version()) + ".",
                                      state.form->Name());
-        state.layers.insert(state.layers.end(), added.layers.begin(), added.layers.end());
+        const std::vector<dbc_Layer> layers = added.InForm(*state.form).layers;
+        state.layers.insert(state.layers.end(), layers.begin(), layers.end());
     }
 }
 

@@ -72,8 +72,8 @@ struct dbc_Upgrade::Upgrade
 
     void Plan(const rfm_TableInfo& table)
     {
-        const dbc_Form& form = plan.FormOf(table);
-        dbc_TableOnItsWay planned{StoredState(form, table), plan.StepsFrom(form), 0};
+        dbc_PlannedTable way = plan.PlanTable(table);
+        dbc_TableOnItsWay planned{StoredState(*way.form, table), std::move(way.steps), 0};
         dbc_UpgradeTable described{table.name,
                                    table.classId,
                                    CountRows(old, rfm_TableForm::Of(table)),

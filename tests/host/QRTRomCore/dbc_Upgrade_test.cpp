@@ -592,6 +592,192 @@ INSTANTIATE_TEST_SUITE_P(
              "1:12,2:20,3:202"}),
     [](const auto& info) { return info.param.name; });
 
+// ---- tables that lack columns of their version, or have columns of later ones ----
+
+void* TellWhetherTheNameIsThere(const dbc_Row& input, dbc_Row& output, int)
+{
+    const bool isThere = input.HasField(F("name")) || input.HasValue(F("name"));
+    output.PutText(F("label"), isThere ? "there" : "absent");
+    return nullptr;
+}
+
+/// Three versions: the second changes nothing, the third renames.
+void HasRenamedLabel(tst_Release& release)
+{
+    release.Had({Shape(203, {nameAttribute, flagAttribute}), tst_Step("upg_Shape", shapeId, 203, 208)});
+    release.Had({Shape(208, {nameAttribute}), tst_Step("upg_Shape", shapeId, 208, 424, RenameLabel)});
+    release.Has(Shape(424, {labelAttribute}));
+}
+
+/// The label is new in the third version, and the value goes with it.
+void HasLateLabel(tst_Release& release)
+{
+    release.Had({Shape(1, {valueAttribute}), tst_Step("upg_Shape", shapeId, 1, 2)});
+    release.Had({Shape(2, {valueAttribute}), tst_Step("upg_Shape", shapeId, 2, 3)});
+    release.Has(Shape(3, {labelAttribute}));
+}
+
+void* LeaveLidWhereItIs(const dbc_Row& input, dbc_Row& output, int)
+{
+    if (!input.HasValue(F("lid")))
+        output.PutAbsent(F("lid"));
+    return nullptr;
+}
+
+void* NameWhatHasNoName(const dbc_Row& input, dbc_Row& output, int)
+{
+    if (!input.HasField(F("name")) || !input.HasValue(F("name")))
+        output.PutText(F("name"), "unnamed");
+    return nullptr;
+}
+
+void HasLateLid(tst_Release& release)
+{
+    release.Had({Crate(1, {}), tst_Step("upg_Crate", crateId, 1, 2)});
+    release.Had({Crate(2, {}), tst_Step("upg_Crate", crateId, 2, 3, LeaveLidWhereItIs)});
+    release.Has(Crate(3, {lidAttribute}));
+    release.Has(Lid(1, {numberAttribute}));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Columns, UpgradeCase,
+    testing::Values(
+        Case{"NewColumnStaysThroughStepsWithoutFunctions",
+             HasLateLabel,
+             {Shape(1, {valueAttribute, labelAttribute})},
+             "INSERT INTO upg_Shape VALUES (1, x'00', 1.5, 'new', NULL), (2, x'01', 2.5, 'too', NULL)",
+             "SELECT group_concat(label) || (SELECT COUNT(*) FROM pragma_table_info('upg_Shape')) FROM "
+             "upg_Shape",
+             "new,too4"},
+        Case{"NewColumnWithAValueIsLeftByTheFunction",
+             HasRenamedLabel,
+             {Shape(203, {nameAttribute, flagAttribute, labelAttribute})},
+             "INSERT INTO upg_Shape VALUES (1, x'00', 'old', 1, 'new', NULL), (2, x'01', 'kept', 0, NULL, "
+             "NULL)",
+             "SELECT group_concat(label) FROM upg_Shape",
+             "new,kept"},
+        Case{"NewColumnGoesWithTheFormThatHasIt",
+             [](tst_Release& release)
+             {
+                 release.Had({Shape(1, {flagAttribute}), tst_Step("upg_Shape", shapeId, 1, 2)});
+                 release.Had({Shape(2, {labelAttribute}), tst_Step("upg_Shape", shapeId, 2, 3)});
+                 release.Had({Shape(3, {}), tst_Step("upg_Shape", shapeId, 3, 4)});
+                 release.Has(Shape(4, {labelAttribute}));
+             },
+             {Shape(1, {flagAttribute, labelAttribute})},
+             "INSERT INTO upg_Shape VALUES (1, x'00', 1, 'early', NULL)",
+             "",
+             "old: table upg_Shape, row 1, field label: The cell holds no value."},
+        Case{"NewObjectStays",
+             HasLateLid,
+             {Crate(1, {lidAttribute}), Lid(1, {numberAttribute})},
+             "INSERT INTO upg_Lid VALUES (4, x'02', 77, NULL);"
+             "INSERT INTO upg_Crate VALUES (1, x'00', 0xFD0004, 4, NULL), (2, x'01', NULL, NULL, NULL)",
+             "SELECT group_concat(printf('%X:', \"lid#ClassID\") || ifnull(\"lid#OID\", '-')) FROM upg_Crate",
+             "FD0004:4,0:-"},
+        Case{
+            "MissingColumnsTakeTheDefault",
+            [](tst_Release& release)
+            {
+                HasCrateWithDefaults(release);
+                release.Had({Crate(1, {labelAttribute, lidAttribute, numbersAttribute}),
+                             tst_Step("upg_Crate", crateId, 1, 2)});
+            },
+            {Crate(1, {numbersAttribute})},
+            "INSERT INTO upg_Crate VALUES (1, x'00', NULL, NULL, NULL)",
+            "SELECT label || (SELECT number FROM upg_Lid WHERE OID = \"lid#OID\") || ifnull(\"numbers#OID\", "
+            "'-') FROM upg_Crate",
+            "standard5-"},
+        Case{"MissingColumnIsAbsentForTheFunction",
+             [](tst_Release& release)
+             {
+                 release.Had({Shape(1, {nameAttribute, flagAttribute}),
+                              tst_Step("upg_Shape", shapeId, 1, 2, TellWhetherTheNameIsThere)});
+                 release.Has(Shape(2, {labelAttribute, flagAttribute}));
+             },
+             {Shape(1, {flagAttribute})},
+             "INSERT INTO upg_Shape VALUES (1, x'00', 1, NULL)",
+             "SELECT label || flag FROM upg_Shape",
+             "absent1"},
+        Case{"MissingColumnAndNewOneInOneTable",
+             HasRenamedLabel,
+             {Shape(203, {labelAttribute, flagAttribute})},
+             "INSERT INTO upg_Shape VALUES (1, x'00', 'new', 1, NULL)",
+             "SELECT label FROM upg_Shape",
+             "new"},
+        Case{"RowsJoinATableWithANewColumn",
+             [](tst_Release& release)
+             {
+                 release.Has(Shape(2, {}));
+                 release.Had({oldBox, tst_Step("upg_OldBox", oldBoxId, 1, 2), DeleteOldBox, RenameOldBox,
+                              MoveOldBox});
+                 release.Had({Box(1, {labelAttribute}), tst_Step("upg_Box", boxId, 1, 2)});
+                 release.Had({Box(2, {labelAttribute, numberAttribute}),
+                              tst_Step("upg_Box", boxId, 2, 3, NameWhatHasNoName)});
+                 release.Had({Shape(1, {numberAttribute}), tst_Step("upg_Shape", shapeId, 1, 2)});
+                 release.Has(Box(3, {labelAttribute, nameAttribute}));
+             },
+             {Shape(1, {numberAttribute}), oldBox, Box(1, {nameAttribute, labelAttribute})},
+             "INSERT INTO upg_Shape VALUES (5, x'00', 50, NULL), (6, x'01', 60, NULL);"
+             "INSERT INTO upg_OldBox VALUES (2, x'02', 6, 'moved', NULL);"
+             "INSERT INTO upg_Box VALUES (1, x'03', 5, 'mine', 'stayed', NULL);",
+             "SELECT group_concat(OID || label || name) FROM upg_Box",
+             "1stayedmine,2movedunnamed"},
+        Case{"ColumnOfNoForm",
+             HasRenamedLabel,
+             {Shape(203, {nameAttribute, flagAttribute, valueAttribute})},
+             "INSERT INTO upg_Shape VALUES (1, x'00', 'old', 1, 2.5, NULL)",
+             "",
+             "old: table upg_Shape, field value: The class has no such attribute."},
+        Case{"ColumnOfAnEarlierForm",
+             HasRenamedLabel,
+             {Shape(208, {nameAttribute, flagAttribute})},
+             "INSERT INTO upg_Shape VALUES (1, x'00', 'old', 1, NULL)",
+             "",
+             "old: table upg_Shape, field flag: The class has no such attribute."},
+        Case{"ColumnOfNoFormBesideAMissingOneAndANewOne",
+             HasRenamedLabel,
+             {Shape(203, {flagAttribute, labelAttribute, valueAttribute})},
+             "",
+             "",
+             "old: table upg_Shape, field value: The class has no such attribute."},
+        Case{"HalfOfAReference",
+             HasLateLid,
+             {Crate(1, {{"lid#OID", cls_TypeInt}}), Lid(1, {numberAttribute})},
+             "",
+             "",
+             "old: table upg_Crate, field lid#ClassID: The table lacks this column."},
+        Case{"MissingIdentities",
+             HasRenamedLabel,
+             {Shape(203, {nameAttribute, flagAttribute})},
+             "ALTER TABLE upg_Shape DROP COLUMN \"##Uid\"",
+             "",
+             "old: table upg_Shape, field ##Uid: The table lacks this column."},
+        Case{"MissingRowsOfTheBase",
+             [](tst_Release& release)
+             {
+                 release.Had({Box(1, {labelAttribute}), tst_Step("upg_Box", boxId, 1, 2)});
+                 release.Has(Box(2, {labelAttribute}));
+                 release.Has(Shape(1, {}));
+             },
+             {Shape(1, {}), Box(1, {labelAttribute})},
+             "ALTER TABLE upg_Box DROP COLUMN \"##BaseClassOID\"",
+             "",
+             "old: table upg_Box, field ##BaseClassOID: The table lacks this column."},
+        Case{"CurrentTableLacksAColumn",
+             HasRenamedLabel,
+             {Shape(424, {})},
+             "",
+             "",
+             "old: table upg_Shape, field label: The table lacks this column."},
+        Case{"CurrentTableHasAnotherColumn",
+             HasRenamedLabel,
+             {Shape(424, {labelAttribute, nameAttribute})},
+             "",
+             "",
+             "old: table upg_Shape, field name: The class has no such attribute."}),
+    [](const auto& info) { return info.param.name; });
+
 // ---- what is refused ----
 
 void* MakeAndForget(const dbc_Row&, dbc_Row&, int)
@@ -709,7 +895,7 @@ INSTANTIATE_TEST_SUITE_P(
              {Shape(1, {flagAttribute})},
              "",
              "",
-             "old: table upg_Shape, field number: The table lacks this column."},
+             "old: table upg_Shape, field flag: The class has no such attribute."},
         Case{"ForeignPart",
              [](tst_Release& release) { HasShape(release, nullptr); },
              {Shape(1, {numberAttribute})},
