@@ -12,6 +12,7 @@
 #include "app_Store.h"
 #include "app_Table.h"
 #include "app_Upgrade.h"
+#include "cmd_Attributes.h"
 #include "cmd_Difference.h"
 #include "cmd_Error.h"
 #include "cmd_Locate.h"
@@ -239,13 +240,15 @@ private:
     void ShowObject(const ddr_Model& model) const
     {
         const cmd_Path where = cmd_ParsePath(path);
-        if (where.steps.size() > 2)
-            throw app_Error("show: " + path + ": expected an object; `vdbattr get` prints a value in one");
         const app_Object object = app_FindObject(model, where);
+        cls_Value whole = object.description.Export(object.object);
+        const cls_Value& shown = cmd_FindWithin(whole, where);
+        if (!cmd_ClassOfValue(shown))
+            throw app_Error("show: " + path + ": expected an object; `vdbattr get` prints a value in one");
         if (json)
-            PrintValue(object.description.Export(object.object));
+            PrintValue(shown);
         else
-            app_Print(app_ShowObject(object));
+            app_Print(where.steps.size() == 2 ? app_ShowObject(object) : app_ShowPart(path, shown));
     }
 
     std::string store;

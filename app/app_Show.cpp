@@ -3,6 +3,7 @@
 #include "app_Check.h"
 #include "app_Json.h"
 #include "app_Table.h"
+#include "app_TableHeadings.h"
 #include "app_View.h"
 #include "cls_Unset.h"
 #include "cmd_Attributes.h"
@@ -31,8 +32,17 @@ bool IsTable(const cls_Value::Array& elements)
     return !elements.empty() && elements.front().AsArray();
 }
 
+/// The rows of a table that has more to it than its rows, or null for any other value.
+const cls_Value* RowsWithin(const cls_Value& value)
+{
+    const cls_Value* const rows = cmd_ClassOfValue(value) ? nullptr : value.Find("table");
+    return rows && rows->AsArray() ? rows : nullptr;
+}
+
 std::string SizeText(const cls_Value& value)
 {
+    if (const cls_Value* rows = RowsWithin(value))
+        return SizeText(*rows);
     if (const cls_Value::Object* members = value.AsObject())
         return app_Count(static_cast<long>(members->size()), "entry", "entries");
     const cls_Value::Array& elements = *value.AsArray();
@@ -149,10 +159,12 @@ std::vector<std::string> RowCells(const cls_Value& row)
     return cells;
 }
 
-/// The first and the last rows of a table of numbers.
-std::string TableText(const cls_Value::Array& rows, std::size_t indent)
+/// The first and the last rows of a table of numbers, under their headings if these are known.
+std::string TableText(const cls_Value::Array& rows, std::vector<std::string> headings, std::size_t indent)
 {
     app_Table table(std::vector<app_Table::Align>(rows.front().AsArray()->size(), Right));
+    if (!headings.empty())
+        table.Add(std::move(headings));
     const bool whole = rows.size() <= 2 * rowsAtEachEnd + 1;
     for (std::size_t i = 0; i < rows.size(); ++i)
     {
@@ -182,43 +194,58 @@ std::string ListText(const cls_Value::Array& elements)
 
 std::string AttributesText(const cls_Description& description, const cls_Value& object, std::size_t indent);
 
-std::string ValueText(const cls_Value& value, std::size_t indent)
+/// The value of an attribute of `owner`.
+std::string ValueText(const cls_Value& owner, const std::string& attribute, const cls_Value& value,
+                      std::size_t indent)
 {
     if (const cls_Description* description = cmd_ClassOfValue(value))
         return app_LabelOf(*description) + '\n' + AttributesText(*description, value, indent);
+    if (const cls_Value* rows = RowsWithin(value))
+        return ValueText(owner, attribute, *rows, indent);
     const cls_Value::Array* const elements = value.AsArray();
     if (!elements)
         return app_ShortText(value) + '\n';
     if (elements->empty())
         return "none\n";
     if (IsTable(*elements))
-        return SizeText(value) + '\n' + TableText(*elements, indent);
+        return SizeText(value) + '\n' +
+               TableText(*elements, app_HeadingsOf(owner, attribute, elements->front().AsArray()->size()),
+                         indent);
     return fmt::format("{}: {}\n", SizeText(value), ListText(*elements));
 }
 
+/// The attributes but for objects that are absent: a material has places for dozens.
 std::string AttributesText(const cls_Description& description, const cls_Value& object, std::size_t indent)
 {
-    const std::vector<const cls_Attribute*> attributes = description.AllAttributes();
+    std::vector<const cls_Attribute*> attributes = description.AllAttributes();
+    std::erase_if(attributes, [&object](const cls_Attribute* attribute)
+                  { return object.Find(attribute->field.Name().CString())->IsNull(); });
     std::size_t width = 0;
     for (const cls_Attribute* attribute : attributes)
         width = std::max(width, std::string_view(attribute->word).size());
     std::string text;
     for (const cls_Attribute* attribute : attributes)
     {
-        const cls_Value& value = *object.Find(attribute->field.Name().CString());
+        const char* const name = attribute->field.Name().CString();
         text += fmt::format("{:{}}{:{}}  {}", "", indent, attribute->word, width,
-                            ValueText(value, indent + width + 2));
+                            ValueText(object, name, *object.Find(name), indent + width + 2));
     }
     return text;
 }
 
-std::string RulesText(const app_Object& object)
+std::string RulesText(const cls_Description& description, const void* object, const std::string& path)
 {
-    const auto finding =
-        app_CheckObject(object.description, object.object, app_PathOf(object.repositoryWord, object.name));
+    const auto finding = app_CheckObject(description, object, path);
     if (!finding)
         return "Its rules hold.\n";
     return fmt::format("Broken rule {}: {}\n", finding->id, finding->message);
+}
+
+/// The heading over an object and its attributes.
+std::string HeadedText(const std::string& path, const cls_Description& description, const cls_Value& value)
+{
+    return fmt::format("{}  {} ({})\n\n{}\n", path, app_LabelOf(description), description.Name(),
+                       AttributesText(description, value, 2));
 }
 
 } // namespace
@@ -226,13 +253,19 @@ std::string RulesText(const app_Object& object)
 std::string app_ShowObject(const app_Object& object)
 {
     const cls_Value value = object.description.Export(object.object);
-    std::string text = fmt::format("{}  {} ({})\n\n", app_PathOf(object.repositoryWord, object.name),
-                                   app_LabelOf(object.description), object.description.Name());
-    text += AttributesText(object.description, value, 2) + '\n';
+    const std::string path = app_PathOf(object.repositoryWord, object.name);
+    std::string text = HeadedText(path, object.description, value);
     if (const auto curve = app_CurveOf(value))
     {
         const std::string plot = app_Plot(*curve, 0);
         text += plot.empty() ? "" : plot + '\n';
     }
-    return text + RulesText(object);
+    return text + RulesText(object.description, object.object, path);
+}
+
+std::string app_ShowPart(const std::string& path, const cls_Value& part)
+{
+    const cls_Description& description = *cmd_ClassOfValue(part);
+    const cls_AnyObject object = cls_ObjectOfValue(description, part);
+    return HeadedText(path, description, part) + RulesText(description, object.Get(), path);
 }

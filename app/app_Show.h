@@ -13,6 +13,9 @@ cls_Value app_ValueOfList(const ddr_Model& model);
 /// people.
 std::string app_ShowObject(const app_Object& object);
 
+/// The same of an object within an object, given as its plain value.
+std::string app_ShowPart(const std::string& path, const cls_Value& part);
+
 /// A value on one line, for people: a text as it is, an attribute that is not set as such.
 std::string app_ShortText(const cls_Value& value);
 /// The same, with no more than the size of what is no scalar.

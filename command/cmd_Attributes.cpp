@@ -154,6 +154,18 @@ cls_Value RowsOf(const cmd_Value& value)
                       [](const cmd_Value& row) { return SequenceOf("a row of numbers", row, NumberOf); });
 }
 
+/// The rows of a table, or a dictionary of its parts.
+cls_Value TableOf(const cmd_Value& value)
+{
+    const cmd_Value::Dictionary* parts = value.AsDictionary();
+    if (!parts)
+        return RowsOf(value);
+    cls_Value::Object plain;
+    for (const auto& [key, part] : *parts)
+        plain.emplace_back(key, part.AsElements() ? RowsOf(part) : BoolOf(part));
+    return plain;
+}
+
 /// A value for a kind that has no rules of its own here; the kind itself tells what does not fit.
 cls_Value PlainOf(const cmd_Value& value)
 {
@@ -339,6 +351,8 @@ cls_Value AttributeOf(const cls_Description& description, const cls_Attribute& a
         return EntriesOf("a dictionary of objects", value, object);
     case Array2D:
         return RowsOf(value);
+    case Table:
+        return TableOf(value);
     case MapArray2D:
         return EntriesOf("a dictionary of rows of numbers", value, RowsOf);
     case MapFloat:
@@ -390,6 +404,29 @@ cmd_Value ScriptOfMap(const cls_Value& value)
     for (const auto& [key, entry] : *value.AsObject())
         dictionary.emplace_back(key, ScriptOfObjects(entry));
     return dictionary;
+}
+
+/// The rows of a table where nothing else differs from a new object's, else a dictionary of its parts; or a
+/// part of it.
+cmd_Value ScriptOfTable(const cls_Description& description, const cls_Attribute& attribute,
+                        const cls_Value& value)
+{
+    if (!value.AsObject())
+        return value.AsBool() ? cmd_ValueOfPlain(value) : ScriptOfNumbers(value);
+    const cls_AnyObject fresh(description, description.Info().create());
+    const cls_Value usual = attribute.kind->Export(attribute.Member(fresh.Get()));
+    const cls_Value* rows = nullptr;
+    bool isUsual = true;
+    cmd_Value::Dictionary parts;
+    for (const auto& [name, part] : *value.AsObject())
+    {
+        if (part.AsArray())
+            rows = &part;
+        else
+            isUsual = isUsual && part == *usual.Find(name);
+        parts.emplace_back(name, part.AsArray() ? ScriptOfNumbers(part) : cmd_ValueOfPlain(part));
+    }
+    return rows && isUsual ? ScriptOfNumbers(*rows) : cmd_Value(parts);
 }
 
 bool IsUnset(const cls_Value& value)
@@ -510,6 +547,8 @@ cmd_Value cmd_ScriptOfAttribute(const cls_Description& description, const cls_At
     case MapArray2D:
     case MapFloat:
         return ScriptOfNumbers(value);
+    case Table:
+        return ScriptOfTable(description, attribute, value);
     case Optional:
     case Object:
     case ListObject:

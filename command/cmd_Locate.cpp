@@ -2,6 +2,7 @@
 
 #include "cmd_Attributes.h"
 #include "cmd_Error.h"
+#include "ddr_ShortcutRegistry.h"
 #include "mdl_Repository.h"
 
 namespace
@@ -39,6 +40,50 @@ std::vector<std::string> QuotedNames(const std::vector<std::string>& names)
     if (!nearest.empty())
         message += "; did you mean " + cmd_QuotedText(nearest) + '?';
     throw cmd_Error(message, PlaceOf(path, 1));
+}
+
+[[noreturn]] void RaiseNoWord(const cls_Description& owner, const cmd_Path& path, std::size_t step)
+{
+    const std::string& word = path.steps[step].text;
+    std::vector<std::string> words;
+    for (const cls_Attribute* known : owner.AllAttributes())
+        words.emplace_back(known->word);
+    throw cmd_Error(path.Text(step + 1) + ": " + owner.Name() + " has no such word, " +
+                        cmd_ExpectedOneOf(word, words),
+                    PlaceOf(path, step));
+}
+
+/// Where a step leads from an object.
+struct Taken
+{
+    /// Null where it leads back to the object.
+    const cls_Attribute* attribute;
+    /// How many steps of the path it is.
+    std::size_t steps;
+};
+
+/// The attribute to which the path leads on from an object: by its word, or by a word and a key as in
+/// .options['plastic'].
+Taken TakeAttribute(const cls_Description& owner, const cmd_Path& path, std::size_t step)
+{
+    const std::string& word = path.steps[step].text;
+    if (const cls_Attribute* attribute = owner.FindByWord(word))
+        return {attribute, 1};
+    const ddr_StepClass* byKey = ddr_Shortcuts().FindAttributeStep(owner, word);
+    if (!byKey)
+        RaiseNoWord(owner, path, step);
+    if (step + 1 == path.steps.size() || path.steps[step + 1].sort != Sort::Key)
+        throw cmd_Error(path.Text(step + 1) + ": expected a name behind it, as " + path.Text(step + 1) +
+                            "['name']",
+                        PlaceOf(path, step));
+    try
+    {
+        return {byKey->attributeOf(owner, path.steps[step + 1].text.c_str()), 2};
+    }
+    catch (const nex_CmdException<atr_String, 2>& error)
+    {
+        throw cmd_Error(path.Text(step + 2) + ": " + error.what(), PlaceOf(path, step + 1));
+    }
 }
 
 /// Walks from the plain value of an object into it, and knows on the way which attribute it is in.
@@ -85,19 +130,16 @@ private:
     void GoToWord(const std::string& word)
     {
         const cls_Description* inner = cmd_ClassOfValue(*value);
+        if (!inner && attribute && attribute->kind->Id() == cls_KindEnm::Table && GoToMember(word))
+            return;
         if (!inner)
             Raise("an object with a word " + word);
         owner = inner;
-        attribute = owner->FindByWord(word);
-        if (!attribute)
-        {
-            std::vector<std::string> words;
-            for (const cls_Attribute* known : owner->AllAttributes())
-                words.emplace_back(known->word);
-            throw cmd_Error(path.Text(count + 1) + ": " + owner->Name() + " has no such word, " +
-                                cmd_ExpectedOneOf(word, words),
-                            PlaceOf(path, count));
-        }
+        const Taken taken = TakeAttribute(*owner, path, count);
+        count += taken.steps - 1;
+        if (!taken.attribute)
+            return;
+        attribute = taken.attribute;
         GoToMember(attribute->field.Name().CString());
     }
 
@@ -132,6 +174,9 @@ private:
 
     void GoToPosition(std::size_t position)
     {
+        // The rows of a table are its elements, whatever else it has.
+        if (attribute && attribute->kind->Id() == cls_KindEnm::Table && value->AsObject())
+            GoToMember("table");
         cls_Value::Array* elements = value->AsArray();
         if (!elements)
             Raise("a sequence");
@@ -201,6 +246,15 @@ cls_Value& cmd_FindWithin(cls_Value& object, const cmd_Path& path)
     Walk walk(object, path);
     walk.Run();
     return walk.Value();
+}
+
+const cls_Attribute& cmd_AttributeAt(const cls_Description& description, const cmd_Path& path)
+{
+    const cls_Attribute* attribute = TakeAttribute(description, path, 2).attribute;
+    if (!attribute)
+        throw cmd_Error(path.Text(4) + ": this is the object itself, expected a part of it",
+                        PlaceOf(path, 2));
+    return *attribute;
 }
 
 cmd_Value cmd_ScriptWithin(const cls_Value& object, const cmd_Path& path)

@@ -28,5 +28,9 @@ OVR_EXPORT cmd_Located cmd_Locate(const ddr_Model& model, const cmd_Path& path);
 /// that they begin at. Throws `cmd_Error`.
 OVR_EXPORT cls_Value& cmd_FindWithin(cls_Value& object, const cmd_Path& path);
 
+/// The attribute of an object of this class in which the steps behind the second begin, which must be there.
+/// Throws `cmd_Error`.
+OVR_EXPORT const cls_Attribute& cmd_AttributeAt(const cls_Description& description, const cmd_Path& path);
+
 /// What a script would write for that value.
 OVR_EXPORT cmd_Value cmd_ScriptWithin(const cls_Value& object, const cmd_Path& path);

@@ -68,7 +68,7 @@ void ApplyWithin(const cls_AnyObject& object, const cmd_Path& path, cmd_Argument
     const cls_AnyObject changed = cls_ObjectOfValue(*partClass, part);
     Apply(changed, arguments);
     part = partClass->Export(changed.Get());
-    const cls_Attribute& outer = *description.FindByWord(path.steps[2].text);
+    const cls_Attribute& outer = cmd_AttributeAt(description, path);
     outer.kind->Import(outer.member(object.Get()), *whole.Find(outer.field.Name().CString()));
 }
 
@@ -77,7 +77,7 @@ std::vector<const cls_Attribute*> Touched(const cls_Description& description, co
                                           const cmd_Arguments& arguments)
 {
     if (path.steps.size() > 2)
-        return {description.FindByWord(path.steps[2].text)};
+        return {&cmd_AttributeAt(description, path)};
     std::vector<const cls_Attribute*> attributes;
     for (const auto& argument : arguments)
         attributes.push_back(description.FindByWord(argument.first));

@@ -11,8 +11,8 @@ constexpr const char* kindNames[] = {
     "list_string", "list_object",      "map_object", "map_object_int", "array2d",
     "map_array2d", "map_float",        "table",      "property_table", "region",
     "region_list", "region_pair_list", "datum",      "segment",        "segment_list",
-    "dot"};
-static_assert(std::size(kindNames) == static_cast<std::size_t>(cls_KindEnm::Dot) + 1);
+    "dot",         "pending"};
+static_assert(std::size(kindNames) == static_cast<std::size_t>(cls_KindEnm::Pending) + 1);
 
 } // namespace
 
@@ -37,6 +37,16 @@ const cls_Description* cls_Kind::Of() const
 }
 
 const omu_EnumTable* cls_Kind::Enum() const
+{
+    return nullptr;
+}
+
+const void* cls_Kind::ConstObject(const void*) const
+{
+    return nullptr;
+}
+
+void* cls_Kind::Object(void*) const
 {
     return nullptr;
 }

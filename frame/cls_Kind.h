@@ -8,7 +8,7 @@
 class cls_Description;
 
 /// What an attribute is, as programs and the catalogue name it.
-enum class cls_KindEnm : int
+enum class OVR_EXPORT cls_KindEnm : int
 {
     Int,
     Double,
@@ -35,7 +35,8 @@ enum class cls_KindEnm : int
     Datum,
     Segment,
     SegmentList,
-    Dot
+    Dot,
+    Pending
 };
 
 /// Everything that can be done with a member of one C++ type without knowing the class that has it: writing,
@@ -55,6 +56,10 @@ public:
     virtual const cls_Description* Of() const;
     /// The table of an enumeration, or null.
     virtual const omu_EnumTable* Enum() const;
+    /// The object in a handle, seen as its root class: to read, or to write, private to the handle from then
+    /// on. Null where the handle is empty, and for any other kind of member.
+    virtual const void* ConstObject(const void* member) const;
+    virtual void* Object(void* member) const;
 
     virtual void Write(const void* member, const cls_WriteVisitor& visitor,
                        const cls_FieldHandle& field) const = 0;

@@ -1,5 +1,8 @@
 #include "cls_KindOf.h"
 
+#include "nex_Exceptions.h"
+#include "typ_ArchCompTable.h"
+
 #include <cstring>
 
 namespace
@@ -246,6 +249,44 @@ cls_AttributeType OptionalKindBase::Type() const
 unsigned OptionalKindBase::TypeId() const
 {
     return Of()->Id();
+}
+
+cls_KindEnm PendingKindBase::Id() const
+{
+    return cls_KindEnm::Pending;
+}
+
+cls_AttributeType PendingKindBase::Type() const
+{
+    return cls_TypeObject;
+}
+
+void PendingKindBase::Write(const void*, const cls_WriteVisitor& visitor, const cls_FieldHandle& field) const
+{
+    visitor.Memento().PutAbsent(field);
+}
+
+void PendingKindBase::Read(void*, const cls_ReadVisitor& visitor, const cls_FieldHandle& field) const
+{
+    // The reader itself refuses an object of a class that it does not know.
+    if (!cow_ErasedReferent(visitor.Memento().GetObject(field, TypeId())))
+        return;
+    const std::string message = std::string("an object of class ") + typ_ArchCompTable::GetName(TypeId()) +
+                                ", which no attribute can hold yet";
+    nex_PrimException<atr_String, 1>(atr_String(message.c_str()), 0).Throw(__FILE__, __LINE__);
+}
+
+cls_Value PendingKindBase::Export(const void*) const
+{
+    return cls_Value();
+}
+
+void PendingKindBase::Import(void*, const cls_Value& value) const
+{
+    if (!value.IsNull())
+        throw cls_ValueError("", std::string("expected null, as the class ") +
+                                     typ_ArchCompTable::GetName(TypeId()) + " is not built, found " +
+                                     value.Summary());
 }
 
 } // namespace cls_kinds

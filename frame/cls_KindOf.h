@@ -161,6 +161,7 @@ template <class T, class P>
 class OptionalKind final : public OptionalKindBase
 {
     using Handle = cow_COW<T, P>;
+    using Root = typename T::cls_RootClass;
 
 public:
     constexpr OptionalKind() = default;
@@ -180,10 +181,8 @@ public:
 
     cls_Value Export(const void* member) const override
     {
-        const Handle& handle = *static_cast<const Handle*>(member);
-        if (handle.IsNull())
-            return cls_Value();
-        return cls_ValueOfObject(T::Description(), handle.ConstGet());
+        const void* object = ConstObject(member);
+        return object ? cls_ValueOfObject(T::Description(), object) : cls_Value();
     }
 
     void Import(void* member, const cls_Value& value) const override
@@ -192,11 +191,65 @@ public:
         if (value.IsNull())
             handle = Handle();
         else
-            handle = Handle(static_cast<T*>(cls_ObjectOfValue(T::Description(), value).Release()));
+            handle = Handle(
+                static_cast<T*>(static_cast<Root*>(cls_ObjectOfValue(T::Description(), value).Release())));
+    }
+
+    const void* ConstObject(const void* member) const override
+    {
+        const Root* object = static_cast<const Handle*>(member)->ConstGet();
+        return object;
+    }
+
+    void* Object(void* member) const override
+    {
+        Handle& handle = *static_cast<Handle*>(member);
+        Root* object = handle.IsNull() ? nullptr : handle.Get();
+        return object;
     }
 };
 
+/// A member of an optional object whose class is not built: it is stored and read as absent.
+class OVR_EXPORT PendingKindBase : public cls_Kind
+{
+public:
+    cls_KindEnm Id() const final;
+    cls_AttributeType Type() const final;
+    void Write(const void* member, const cls_WriteVisitor& visitor, const cls_FieldHandle& field) const final;
+    /// Throws if the object is there.
+    void Read(void* member, const cls_ReadVisitor& visitor, const cls_FieldHandle& field) const final;
+    cls_Value Export(const void* member) const final;
+    void Import(void* member, const cls_Value& value) const final;
+
+protected:
+    constexpr PendingKindBase() = default;
+    ~PendingKindBase() = default;
+};
+
+template <unsigned ClassId>
+class PendingKind final : public PendingKindBase
+{
+public:
+    constexpr PendingKind() = default;
+
+    unsigned TypeId() const override { return ClassId; }
+};
+
 } // namespace cls_kinds
+
+/// Stands for the handle of an optional object of a class that is not built yet. It keeps the place of the
+/// attribute in the stored record, so that stores without such an object are read and written as later.
+template <unsigned ClassId>
+struct cls_Pending
+{
+    static constexpr bool IsNull() { return true; }
+};
+
+template <unsigned ClassId>
+struct cls_KindOf<cls_Pending<ClassId>>
+{
+    static constexpr cls_kinds::PendingKind<ClassId> kind{};
+};
 
 template <>
 struct cls_KindOf<int>

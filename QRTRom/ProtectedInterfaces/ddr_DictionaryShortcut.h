@@ -39,13 +39,17 @@ private:
 
     cow_String StepText(KeyForm form) const
     {
-        return cow_String(Form::prefix).append(ddr_ShortcutBaseImpl::KeyText(this->KeyOf().value, form));
+        return cow_String(Form::prefix)
+            .append(ddr_ShortcutBaseImpl::KeyText(this->KeyOf().value,
+                                                  Form::hasPlainKeys ? form : KeyForm::Python));
     }
 
     static ddr_StepClass StepClass()
     {
         ddr_StepClass step = Step::StepClassOf(ddr_StepClass::Sort::Dictionary);
         step.word = Form::prefix;
+        if constexpr (requires { &Form::AttributeOf; })
+            step.attributeOf = &Form::AttributeOf;
         step.make = [](const omu_ShortcutBase& parent, const cow_String& key, int) -> omu_ShortcutBase* {
             return new ddr_Shortcut<C>(
                 new ddr_DictionaryShortcut(key, static_cast<const ddr_Shortcut<P>&>(parent)));

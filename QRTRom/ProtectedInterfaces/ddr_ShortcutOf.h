@@ -33,6 +33,8 @@ struct ddr_MemberStepOf;
 /// The same for steps by name:
 ///     id            class id of the step
 ///     prefix        what stands between the parent's path and the key, as ".options"; mostly empty
+///     hasPlainKeys  whether the key stands in `Path()` as it is; if not, it is escaped where it must be
+///     AttributeOf   only where keys lead to attributes of the parent: see `ddr_StepClass::attributeOf`
 ///     Get, ConstGet the object under a key of the parent; throws through ddr_RaiseUnknown if there is none
 template <class P, class C, int N>
 struct ddr_DictionaryStepOf;
@@ -62,6 +64,7 @@ template <class P, class C>
 struct RepositoryLookup
 {
     static constexpr const char* prefix = "";
+    static constexpr bool hasPlainKeys = true;
 
     template <class K>
     static C* Get(P& repository, const K& key)

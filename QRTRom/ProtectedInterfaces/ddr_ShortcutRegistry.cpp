@@ -69,6 +69,18 @@ std::vector<const ddr_StepClass*> ddr_ShortcutRegistry::StepsFrom(unsigned holde
     return found;
 }
 
+const ddr_StepClass* ddr_ShortcutRegistry::FindAttributeStep(const cls_Description& parent,
+                                                             const std::string& word)
+{
+    RunMetadataFunctions();
+    for (const auto& step : steps)
+    {
+        if (step->attributeOf && '.' + word == step->word && parent.IsA(FindHolder(step->parentId)->targetId))
+            return step.get();
+    }
+    return nullptr;
+}
+
 ddr_ShortcutRegistry& ddr_Shortcuts()
 {
     return *omi_Singleton<ddr_ShortcutRegistry>::Instance();

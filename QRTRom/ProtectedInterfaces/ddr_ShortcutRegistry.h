@@ -45,6 +45,9 @@ struct ddr_StepClass
     const char* word = "";
     /// Whether every parent has the member, so that the step does for all classes derived from it.
     bool isOfParentItself = true;
+    /// Of a step by name whose keys lead to attributes of the parent: which one it is in a parent of this
+    /// class, or null where the key leads back to the parent. Throws for a key that the class does not have.
+    const cls_Attribute* (*attributeOf)(const cls_Description& parent, const cow_String& key) = nullptr;
     Maker make = nullptr;
 };
 
@@ -65,6 +68,8 @@ public:
     /// The steps from objects to which the shortcut class of this id leads. Of several to members of one
     /// word, the one that does for most classes comes first.
     std::vector<const ddr_StepClass*> StepsFrom(unsigned holderId);
+    /// The step by name to attributes of objects of this class that begins with this word, or null.
+    const ddr_StepClass* FindAttributeStep(const cls_Description& parent, const std::string& word);
 
 private:
     std::vector<std::unique_ptr<ddr_HolderClass>> holders;

@@ -237,7 +237,7 @@ TEST_F(Edit, BadInputEndsWithAMessageAndChangesNothing)
         {{"get", "amplitudes[\x1b]"}, "", "found '\\x1b]'\n  amplitudes[?]\n             ^\n"},
         {{"get", "amplitudes['" + longName + "']"}, "", "there is no such object"},
         {{"get", longPath}, "", "kamC_Tabular has no such word"},
-        {{"get", "materials['steel']"}, "", "model.materials: a model has no such repository"},
+        {{"get", "stones['steel']"}, "", "model.stones: a model has no such repository"},
         {{"show", "amplitudes['rmp']"}, "", "did you mean 'ramp'?\n  model.amplitudes['rmp']\n"},
         {{"show", "amplitudes"}, "", "expected the path of an object"},
         {{"set", "amplitudes['ramp']", "smooth="}, "", "kamC_Tabular.smooth: column 1: expected a value"},

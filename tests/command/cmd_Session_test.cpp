@@ -419,7 +419,7 @@ TEST_F(Session, PointsAtTheStepThatLeadsNowhere)
         const char* line;
         const char* marked;
     } rows[] = {
-        {"model.materials['a'].x", "model.materials\n     ^~~~~~~~~~"},
+        {"model.stones['a'].x", "model.stones\n     ^~~~~~~"},
         {"model.amplitudes['rmp'].data", "model.amplitudes['rmp'].data\n                ^~~~~~~"},
         {"model.amplitudes['ramp'].dta[1]", "model.amplitudes['ramp'].dta[1]\n                        ^~~~"},
         {"model.amplitudes['ramp'].data[7][0]",

@@ -76,6 +76,7 @@ class tst_EveryKind : public mem_AllocationOperators
     CLS_ATTRIBUTE(cls_xo1DArrayList<gsl_ModelSegment>, segments)
     CLS_ATTRIBUTE(gsl_Dot, dot)
     CLS_ATTRIBUTE(tst_DotHandle, optionalDot)
+    CLS_ATTRIBUTE(cls_Pending<0x7F000003>, pending)
     CLS_END
 };
 

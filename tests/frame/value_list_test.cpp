@@ -1,14 +1,9 @@
 // Lists that hold their elements by value cannot hold just any element that a store may have.
 
-#include "TemporaryFolder.h"
-#include "rom_StoreException.h"
-#include "rom_StoreReader.h"
-#include "rom_StoreWriter.h"
+#include "BrokenStore.h"
 #include "tst_EveryKind.h"
 
 #include <gtest/gtest.h>
-
-#include <sqlite3.h>
 
 namespace
 {
@@ -24,39 +19,16 @@ protected:
         Save(tst_EveryKind::TypeId(), &object);
     }
 
-    void Save(unsigned classId, const void* object) const
-    {
-        rom_StoreWriter writer(path.c_str());
-        writer.WriteRoot("object", classId, object);
-        writer.Finish();
-    }
+    void Save(unsigned classId, const void* object) const { store.Save(classId, object); }
 
-    void Execute(const char* sql) const
-    {
-        sqlite3* connection = nullptr;
-        ASSERT_EQ(SQLITE_OK, sqlite3_open(path.c_str(), &connection));
-        EXPECT_EQ(SQLITE_OK, sqlite3_exec(connection, sql, nullptr, nullptr, nullptr))
-            << sqlite3_errmsg(connection);
-        EXPECT_EQ(1, sqlite3_changes(connection));
-        EXPECT_EQ(SQLITE_OK, sqlite3_close(connection));
-    }
+    void Execute(const char* sql) const { store.Execute(sql); }
 
     std::string MessageOfReading(unsigned classId = tst_EveryKind::TypeId()) const
     {
-        try
-        {
-            rom_StoreReader reader(path.c_str());
-            reader.ReadRoot("object", classId);
-        }
-        catch (const rom_StoreException& error)
-        {
-            return error.Message().CString();
-        }
-        return "nothing thrown";
+        return store.MessageOfReading(classId);
     }
 
-    TemporaryFolder folder;
-    std::string path = folder / "store";
+    BrokenStore store;
 };
 
 TEST_F(ValueList, IsReadAsItIs)

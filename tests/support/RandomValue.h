@@ -65,6 +65,10 @@ public:
             return Map(false, [this] { return cls_Value(static_cast<double>(Below(1000)) / 8.0); });
         case PropertyTable:
             return Array();
+        case Table:
+            return cls_Value::Object{{"table", Array()}, {"allowEmptyFirstRow", Chance(2)}};
+        case Pending:
+            return cls_Value();
         case Region:
             return RegionValue();
         case RegionList:

@@ -1,0 +1,4 @@
+#include "kmaC_RateOptions.h"
+
+CLS_IMPLEMENT(kmaC_Regularization)
+CLS_IMPLEMENT(kmaC_Shear)
