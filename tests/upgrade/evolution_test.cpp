@@ -106,13 +106,25 @@ const Form& FormOf(Amplitude::Kind kind, bool isOld)
     return forms[kind][isOld ? 1 : 0];
 }
 
+/// The form in which kamC_Amplitude is stored.
+struct BaseForm
+{
+    int version = 430;
+    bool lacksDefinition = false; ///< where the version has it
+    bool hasNewSpan = false;      ///< as of version 424, beside the span of before: each row has one of them
+
+    bool HasDefinition() const { return version < 430 && !lacksDefinition; }
+    bool HasBothSpans() const { return version < 424 && hasNewSpan; }
+    bool HasValue() const { return version == 203; }
+};
+
 /// Writes a model as one set of releases stored it.
 class Writer
 {
 public:
-    /// `baseVersion` is that of kamC_Amplitude; `oldKinds` says for each kind whether it is in its old form.
-    Writer(const std::vector<Amplitude>& amplitudes, int baseVersion, std::vector<bool> oldKinds)
-        : amplitudes(amplitudes), baseVersion(baseVersion), oldKinds(std::move(oldKinds))
+    /// `oldKinds` says for each kind whether it is in its old form.
+    Writer(const std::vector<Amplitude>& amplitudes, const BaseForm& base, std::vector<bool> oldKinds)
+        : amplitudes(amplitudes), base(base), oldKinds(std::move(oldKinds))
     {}
 
     std::string Text()
@@ -134,20 +146,27 @@ private:
     std::string Base() const
     {
         std::string text =
-            "kamC_Amplitude: class 0x2440002, version " + std::to_string(baseVersion) + "\n  OID ";
-        text += baseVersion == 203   ? "definition:text time:text value:text\n"
-                : baseVersion == 208 ? "definition:text time:text\n"
-                : baseVersion == 424 ? "definition:text timeSpan:text\n"
-                                     : "timeSpan:text\n";
+            "kamC_Amplitude: class 0x2440002, version " + std::to_string(base.version) + "\n  OID";
+        text += base.HasDefinition() ? " definition:text" : "";
+        text += base.version < 424 ? " time:text" : " timeSpan:text";
+        text += base.HasValue() ? " value:text" : "";
+        text += base.HasBothSpans() ? " timeSpan:text\n" : "\n";
         int row = 0;
         for (const Amplitude& each : amplitudes)
-        {
-            text += "  " + std::to_string(++row) + ' ';
-            if (baseVersion < 430)
-                text += each.definition + ' ';
-            text += each.span + (baseVersion == 203 ? " \"RELATIVE\"\n" : "\n");
-        }
+            text += BaseRow(each, ++row);
         return amplitudes.empty() ? "" : text;
+    }
+
+    std::string BaseRow(const Amplitude& each, int row) const
+    {
+        const bool isNew = base.HasBothSpans() && row % 2 == 0;
+        std::string text = "  " + std::to_string(row);
+        text += base.HasDefinition() ? " " + each.definition : "";
+        text += isNew ? " -" : " " + each.span;
+        text += base.HasValue() ? " \"RELATIVE\"" : "";
+        if (base.HasBothSpans())
+            text += isNew ? " " + each.span : " -";
+        return text + '\n';
     }
 
     std::string Kind(Amplitude::Kind kind)
@@ -226,7 +245,7 @@ private:
     }
 
     const std::vector<Amplitude>& amplitudes;
-    int baseVersion;
+    BaseForm base;
     std::vector<bool> oldKinds;
     std::map<std::size_t, std::string> targets;
     std::string lists;
@@ -271,7 +290,8 @@ RC_GTEST_PROP(Evolution, OfAnyReleaseEndsInTheRowsOfThisOne, ())
 {
     const auto count = *rc::gen::inRange<std::size_t>(0, 8);
     const auto amplitudes = *rc::gen::container<std::vector<Amplitude>>(count, Amplitudes());
-    const int baseVersion = *rc::gen::element(203, 208, 424, 430);
+    const BaseForm base{*rc::gen::element(203, 208, 424, 430), *rc::gen::arbitrary<bool>(),
+                        *rc::gen::arbitrary<bool>()};
     const auto oldKinds =
         *rc::gen::container<std::vector<bool>>(std::size_t{Amplitude::KindCount}, rc::gen::arbitrary<bool>());
 
@@ -280,9 +300,9 @@ RC_GTEST_PROP(Evolution, OfAnyReleaseEndsInTheRowsOfThisOne, ())
     const std::string expected = folder / "expected.vdb";
     const std::string upgraded = folder / "upgraded.vdb";
     const std::string again = folder / "again.vdb";
-    rfm_MakeStoreOfText(old, Writer(amplitudes, baseVersion, oldKinds).Text(), "old");
+    rfm_MakeStoreOfText(old, Writer(amplitudes, base, oldKinds).Text(), "old");
     rfm_MakeStoreOfText(
-        expected, Writer(amplitudes, 430, std::vector<bool>(Amplitude::KindCount, false)).Text(), "expected");
+        expected, Writer(amplitudes, {}, std::vector<bool>(Amplitude::KindCount, false)).Text(), "expected");
     Upgrade(old, upgraded);
     RC_ASSERT(RowsOf(upgraded) == RowsOf(expected));
     const auto model = ReadModel(upgraded);
