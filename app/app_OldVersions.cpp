@@ -91,8 +91,9 @@ void AddStep(cls_Value::Object& members, const dbc_OldClasses::Entry& entry)
 {
     if (entry.steps.empty())
     {
-        members.emplace_back("next", cls_Value());
-        members.emplace_back("conversion", cls_Value());
+        const cls_Value none;
+        members.emplace_back("next", none);
+        members.emplace_back("conversion", none);
         return;
     }
     const dbc_ClassConverter& step = *entry.steps.front();
