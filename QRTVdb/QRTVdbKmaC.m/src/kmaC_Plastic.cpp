@@ -55,8 +55,8 @@ void kmaC_Plastic::AssertValid() const
     if (hardening == HardeningEnm::USER)
         return;
     table.AssertValid();
-    if (BeginsAtFirstYield(*this) && table.Rows() > 0)
-        kmaC_Assert(table.Columns() > 1 && table.Value(0, 1) == 0.0, 39);
+    if (BeginsAtFirstYield(*this) && table.Rows() > 0 && table.Columns() > 1)
+        kmaC_Assert(table.Value(0, 1) == 0.0, 39);
     // The message of this code speaks of another table.
     if (hardening == HardeningEnm::ISOTROPIC && rate)
         kmaC_Assert(table.Columns() > 2, 64);
