@@ -407,7 +407,8 @@ void rfm_Database::AttachForConversion(const rfm_Database& old)
     Execute("PRAGMA temp_store = FILE");
     Execute("ATTACH '' AS scratch");
     Execute("PRAGMA scratch.page_size = " + std::to_string(pageSize));
-    Execute("PRAGMA old.cache_size = 1000");
+    // What is copied from there is read but once, from start to end.
+    Execute("PRAGMA old.cache_size = 50");
     Execute("PRAGMA scratch.cache_size = 1000");
     Execute(rfm_Elements::SqlToCreate(rfm_ScratchSchema));
     rfm_RowCopy::AddFunction(connection, &rowCopy);
@@ -421,6 +422,13 @@ void rfm_Database::CreateTable(const rfm_TableForm& form)
 void rfm_Database::DropTable(const rfm_TableForm& form)
 {
     Execute("DROP TABLE " + form.SqlName());
+}
+
+void rfm_Database::RequireLastRow(const rfm_TableForm& form, std::int64_t oid) const
+{
+    const std::int64_t given = sqlite3_last_insert_rowid(connection);
+    if (given != oid)
+        Raise("The row was put in as row " + std::to_string(given) + ".", form.name, oid, form.keyColumn);
 }
 
 void rfm_Database::Commit()

@@ -95,6 +95,9 @@ public:
 
     /// The connection, for the statements of this layer.
     sqlite3* Connection() const { return connection; }
+    /// Throws unless the row that was put in last, into this table, has this number: for rows that take the
+    /// numbers that SQLite gives.
+    void RequireLastRow(const rfm_TableForm& form, std::int64_t oid) const;
     /// Throws for a result code of SQLite.
     [[noreturn]] void Raise(int result, const cow_String& table,
                             std::int64_t row = rom_StoreException::NoRow) const;

@@ -23,10 +23,22 @@ public:
     /// The same with a check number that is given: a null cell for a row without one.
     void Insert(std::int64_t key, const rfm_Cell* cells, const rfm_Cell& check);
 
-    void Flush() { batch.Flush(); }
+    /// The same for a key that follows the highest in the table, or is 1 in an empty one: nobody else may
+    /// have put in a higher one. SQLite need not look then whether the row is there.
+    void Append(std::int64_t key, const rfm_Cell* cells);
+
+    void Flush();
 
 private:
+    void FlushAppended();
+    std::int64_t CheckOf(std::int64_t key, const rfm_Cell* cells) const;
+    void Gather(std::int64_t key, const rfm_Cell* cells, const rfm_Cell& check);
+
+    rfm_Database& database;
+    rfm_TableForm form;
     rfm_RowBatch batch;
+    std::unique_ptr<rfm_RowBatch> appender; ///< made when it is needed
+    std::unique_ptr<rfm_Statement> highest;
     std::vector<rfm_Cell> row; ///< key, cells, check number
-    unsigned checkSeed;
+    std::int64_t lastAppended = 0;
 };

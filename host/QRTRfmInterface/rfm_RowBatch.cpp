@@ -21,6 +21,15 @@ rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const rfm_TableForm& form, co
                    static_cast<int>(form.columns.size() + 2))
 {}
 
+rfm_RowBatch rfm_RowBatch::WithoutKeys(rfm_Database& database, const rfm_TableForm& form)
+{
+    std::string sql = "INSERT INTO " + form.SqlName() + " (";
+    for (const rfm_Column& column : form.columns)
+        sql += rfm_Quoted(column.name) + ",";
+    return {database, form.name, sql + rfm_Quoted(rfm_CheckColumn) + ")",
+            static_cast<int>(form.columns.size() + 1)};
+}
+
 rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const cow_String& table, const std::string& sqlStart,
                            int width)
     : database(database),
@@ -51,6 +60,7 @@ void rfm_RowBatch::Add(const rfm_Cell* cells)
         bytes += BytesOf(cells[i]);
     if (bytes > arenaSize)
     {
+        Flush();
         Run(single, cells, 1);
         return;
     }

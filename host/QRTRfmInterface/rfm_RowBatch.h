@@ -18,7 +18,10 @@ public:
     rfm_RowBatch(rfm_Database& database, const cow_String& table, int width);
     rfm_RowBatch(rfm_Database& database, const rfm_TableForm& form, const char* deed = "INSERT");
 
-    /// Takes a row of `width` cells; texts and blobs are copied.
+    /// One for rows without the key: each takes the number after the highest in the table.
+    static rfm_RowBatch WithoutKeys(rfm_Database& database, const rfm_TableForm& form);
+
+    /// Takes a row of `width` cells; texts and blobs are copied. Rows are put in in this order.
     void Add(const rfm_Cell* cells);
     /// Puts in what has been gathered.
     void Flush();

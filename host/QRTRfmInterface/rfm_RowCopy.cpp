@@ -35,6 +35,25 @@ rfm_Cell CellOf(sqlite3_value* value)
     }
 }
 
+/// The kind of cell that a column is made for; `Unset` where there are several.
+rfm_CellKind KindFor(rfm_ColumnKind kind)
+{
+    switch (kind)
+    {
+    case rfm_ColumnKind::Integer:
+        return rfm_CellKind::Integer;
+    case rfm_ColumnKind::Real:
+        return rfm_CellKind::Real;
+    case rfm_ColumnKind::Text:
+        return rfm_CellKind::Text;
+    case rfm_ColumnKind::Blob:
+        return rfm_CellKind::Blob;
+    case rfm_ColumnKind::Any:
+        break;
+    }
+    return rfm_CellKind::Unset;
+}
+
 bool Fits(const rfm_Cell& cell, rfm_ColumnKind kind)
 {
     switch (kind)
@@ -84,7 +103,10 @@ rfm_RowCopy::rfm_RowCopy(rfm_Database& database, Plan newPlan, std::vector<rfm_R
       keepsOrder(KeepsOrder()),
       source(plan.from.columns.size()),
       target(plan.to.columns.size())
-{}
+{
+    for (std::size_t i = 0; i < plan.columns.size(); ++i)
+        quick.push_back(QuickOf(plan.columns[i], plan.to.columns[i].kind));
+}
 
 void rfm_RowCopy::AddFunction(sqlite3* connection, rfm_RowCopy** place)
 {
@@ -105,10 +127,18 @@ bool rfm_RowCopy::KeepsOrder() const
     return true;
 }
 
+rfm_RowCopy::Quick rfm_RowCopy::QuickOf(const rfm_CopyColumn& column, rfm_ColumnKind kind)
+{
+    if (column.source < 0 || column.use == rfm_CopyColumn::Use::ClassId)
+        return {};
+    return {static_cast<std::size_t>(column.source), KindFor(kind)};
+}
+
 void rfm_RowCopy::Run(const std::function<void(std::int64_t)>& newProgress)
 {
     progress = &newProgress;
     plan.expectsNoNull = plan.expectsNoNull && FitsOneStatement();
+    appends = plan.expectsNoNull;
     if (FitsOneStatement())
         RunAsOne();
     else
@@ -174,36 +204,56 @@ void rfm_RowCopy::RunAsOne()
 {
     const std::vector<rfm_ReferenceColumn> referencesBefore = references;
     const rfm_RowNumbers numbersBefore = numbers;
-    try
+    while (!IsRun())
     {
-        RunStatement();
-    }
-    catch (const rom_StoreException&)
-    {
-        if (!hasMetNull || !plan.expectsNoNull)
-            throw;
-        plan.expectsNoNull = false;
         references = referencesBefore;
         numbers = numbersBefore;
         rfm_Statement(database, "DELETE FROM " + plan.to.SqlName(), plan.to.name).Run();
-        RunStatement();
     }
+}
+
+/// False where the rows are not what the copy expects of them; then it expects less.
+bool rfm_RowCopy::IsRun()
+{
+    hasMetNull = false;
+    hasMetHole = false;
+    lastAppended = 0;
+    try
+    {
+        RunStatement();
+        return true;
+    }
+    catch (const rom_StoreException&)
+    {
+        if (!hasMetNull && !hasMetHole)
+            throw;
+        plan.expectsNoNull = plan.expectsNoNull && !hasMetNull;
+        appends = appends && !hasMetHole;
+        return false;
+    }
+}
+
+std::string rfm_RowCopy::SqlToRun() const
+{
+    int parameter = 1;
+    const std::string key = appends ? "" : rfm_Quoted(plan.to.keyColumn) + ",";
+    const char* deed = plan.onConflict == rfm_OnConflict::Replace ? "REPLACE" : "INSERT";
+    std::string sql = std::string(deed) + " INTO " + plan.to.SqlName() + " (" + key;
+    for (const rfm_Column& column : plan.to.columns)
+        sql += rfm_Quoted(column.name) + ",";
+    sql += rfm_Quoted(rfm_CheckColumn) + ") SELECT ";
+    if (!appends)
+        sql += rfm_Quoted(plan.from.keyColumn) + ",";
+    for (std::size_t i = 0; i < plan.columns.size(); ++i)
+        sql += SqlOfColumn(i, parameter) + ",";
+    return sql + functionName + "(" + SqlOfSourceColumns() + ") FROM " + plan.from.SqlName() +
+           SqlOfConditions();
 }
 
 void rfm_RowCopy::RunStatement()
 {
     failure = nullptr;
-    int parameter = 1;
-    const char* deed = plan.onConflict == rfm_OnConflict::Replace ? "REPLACE" : "INSERT";
-    std::string sql = std::string(deed) + " INTO " + plan.to.SqlName() + " (" + rfm_Quoted(plan.to.keyColumn);
-    for (const rfm_Column& column : plan.to.columns)
-        sql += "," + rfm_Quoted(column.name);
-    sql += "," + rfm_Quoted(rfm_CheckColumn) + ") SELECT " + rfm_Quoted(plan.from.keyColumn);
-    for (std::size_t i = 0; i < plan.columns.size(); ++i)
-        sql += "," + SqlOfColumn(i, parameter);
-    sql += std::string(",") + functionName + "(" + SqlOfSourceColumns() + ") FROM " + plan.from.SqlName() +
-           SqlOfConditions();
-    rfm_Statement statement(database, sql, plan.from.name);
+    rfm_Statement statement(database, SqlToRun(), plan.from.name);
     BindParameters(statement);
     database.SetRowCopy(this);
     try
@@ -218,6 +268,8 @@ void rfm_RowCopy::RunStatement()
         throw;
     }
     database.SetRowCopy(nullptr);
+    if (lastAppended > 0)
+        database.RequireLastRow(plan.to, lastAppended);
 }
 
 void rfm_RowCopy::RunRowByRow()
@@ -275,10 +327,15 @@ std::int64_t rfm_RowCopy::Convert(std::int64_t oid, const rfm_Cell& check)
     }
     bool isSame = keepsOrder;
     for (std::size_t i = 0; i < target.size(); ++i)
-        target[i] = CellOf(i, oid, isSame);
+    {
+        const rfm_Cell& cell = source[quick[i].source];
+        target[i] = cell.Is(quick[i].kind) ? cell : CellOf(i, oid, isSame);
+    }
     for (rfm_ReferenceColumn& reference : references)
         reference.Note(target.data());
     CountRow(oid);
+    if (appends && oid != ++lastAppended)
+        RaiseHole(oid);
     if (isSame)
         return expected.Number();
     rfm_Check made(plan.to.checkSeed, oid);
@@ -348,4 +405,10 @@ void rfm_RowCopy::RaiseNull(std::int64_t oid, std::size_t column)
 {
     hasMetNull = true;
     plan.owner->Raise("The cell holds no value.", plan.from.name, oid, plan.to.columns[column].name);
+}
+
+void rfm_RowCopy::RaiseHole(std::int64_t oid)
+{
+    hasMetHole = true;
+    plan.owner->Raise("The row does not follow the one before.", plan.from.name, oid);
 }

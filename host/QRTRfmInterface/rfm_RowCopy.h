@@ -166,6 +166,15 @@ public:
     static void AddFunction(sqlite3* connection, rfm_RowCopy** place);
 
 private:
+    /// Where a column's cell comes from, and the kind of cell that goes over without another look: `Unset`,
+    /// which no stored cell is, for none.
+    struct Quick
+    {
+        std::size_t source = 0;
+        rfm_CellKind kind = rfm_CellKind::Unset;
+    };
+
+    static Quick QuickOf(const rfm_CopyColumn& column, rfm_ColumnKind kind);
     static void CopyRow(sqlite3_context* context, int count, sqlite3_value** arguments);
 
     bool FitsOneStatement() const;
@@ -175,12 +184,15 @@ private:
     std::string SqlOfSourceColumns() const;
     void BindParameters(rfm_Statement& statement) const;
     void RunAsOne();
+    bool IsRun();
+    std::string SqlToRun() const;
     void RunStatement();
     void RunRowByRow();
     /// Makes the new row of a source row, and returns its check number.
     std::int64_t Convert(std::int64_t oid, const rfm_Cell& check);
     rfm_Cell CellOf(std::size_t column, std::int64_t oid, bool& isSame);
     [[noreturn]] void RaiseNull(std::int64_t oid, std::size_t column);
+    [[noreturn]] void RaiseHole(std::int64_t oid);
     void CountRow(std::int64_t oid);
     [[noreturn]] void RaiseDamaged(std::int64_t oid) const;
 
@@ -188,8 +200,14 @@ private:
     Plan plan;
     std::vector<rfm_ReferenceColumn>& references;
     rfm_RowNumbers& numbers;
+    std::vector<Quick> quick;
     bool keepsOrder;
     bool hasMetNull = false;
+    /// Rows that are numbered from 1 on without holes take the numbers that SQLite gives, and it need not
+    /// look for each whether it is there.
+    bool appends = false;
+    bool hasMetHole = false;
+    std::int64_t lastAppended = 0;
     const std::function<void(std::int64_t)>* progress = nullptr;
     std::vector<rfm_Cell> source;
     std::vector<rfm_Cell> target;

@@ -408,8 +408,12 @@ void dbc_NewStore::Insert(Table& table, std::int64_t oid, const std::vector<rfm_
         table.inserter = std::make_unique<rfm_Inserter>(stores.working, table.physical);
     for (rfm_ReferenceColumn& reference : table.references)
         reference.Note(cells.data());
+    const bool isNext = oid > 0 && oid == table.numbers.high + 1;
     table.numbers.Note(oid);
-    table.inserter->Insert(oid, cells.data());
+    if (isNext)
+        table.inserter->Append(oid, cells.data());
+    else
+        table.inserter->Insert(oid, cells.data());
 }
 
 void dbc_NewStore::Flush()

@@ -149,6 +149,41 @@ INSTANTIATE_TEST_SUITE_P(
              "pragma_table_info('upg_Shape')) || "
              "(SELECT Version FROM rom_Class WHERE Name = 'upg_Shape') FROM upg_Shape",
              "7004242"},
+        Case{"NumbersWithHolesStay",
+             [](tst_Release& release)
+             {
+                 release.Had(
+                     {Shape(1, {numberAttribute, labelAttribute}), tst_Step("upg_Shape", shapeId, 1, 2)});
+                 release.Has(Shape(2, {labelAttribute}));
+             },
+             {Shape(1, {numberAttribute, labelAttribute})},
+             "INSERT INTO upg_Shape VALUES (-2, x'00', 1, 'a', NULL), (1, x'00', 1, 'b', NULL), "
+             "(2, x'00', 1, 'c', NULL), (5, x'00', 1, 'd', NULL), (9, x'00', 1, 'e', NULL)",
+             "SELECT group_concat(OID || label, ' ') FROM upg_Shape",
+             "-2a 1b 2c 5d 9e"},
+        Case{"HoleAfterNumbersInOrder",
+             [](tst_Release& release)
+             {
+                 release.Had(
+                     {Shape(1, {numberAttribute, labelAttribute}), tst_Step("upg_Shape", shapeId, 1, 2)});
+                 release.Has(Shape(2, {labelAttribute}));
+             },
+             {Shape(1, {numberAttribute, labelAttribute})},
+             "INSERT INTO upg_Shape VALUES (1, x'00', 1, 'b', NULL), "
+             "(2, x'00', 1, 'c', NULL), (5, x'00', 1, 'd', NULL), (9, x'00', 1, 'e', NULL)",
+             "SELECT group_concat(OID || label, ' ') FROM upg_Shape",
+             "1b 2c 5d 9e"},
+        Case{"NumbersWithHolesStayBehindAFunction",
+             [](tst_Release& release)
+             {
+                 release.Had({Shape(1, {nameAttribute}), tst_Step("upg_Shape", shapeId, 1, 2, RenameLabel)});
+                 release.Has(Shape(2, {labelAttribute}));
+             },
+             {Shape(1, {nameAttribute})},
+             "INSERT INTO upg_Shape VALUES (-2, x'00', 'a', NULL), (1, x'00', 'b', NULL), "
+             "(2, x'00', 'c', NULL), (5, x'00', 'd', NULL), (9, x'00', 'e', NULL)",
+             "SELECT group_concat(OID || label, ' ') FROM upg_Shape",
+             "-2a 1b 2c 5d 9e"},
         Case{"FunctionRenames",
              [](tst_Release& release)
              {
