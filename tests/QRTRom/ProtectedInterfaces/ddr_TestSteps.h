@@ -42,6 +42,7 @@ struct ddr_DictionaryStepOf<kamC_Amplitude, kamC_BaselineCorrection, 1>
 {
     static constexpr unsigned id = 0x3E70006;
     static constexpr const char* prefix = ".corrections";
+    static constexpr bool hasPlainKeys = true;
 
     static kamC_BaselineCorrection* Get(kamC_Amplitude&, const cow_String& key)
     {
@@ -60,6 +61,7 @@ struct ddr_DictionaryStepOf<kamC_Amplitude, kamC_Amplitude, 1>
 {
     static constexpr unsigned id = 0x3E70007;
     static constexpr const char* prefix = ".parts";
+    static constexpr bool hasPlainKeys = true;
 
     static kamC_Amplitude* Get(kamC_Amplitude& amplitude, const cow_String&) { return &amplitude; }
     static const kamC_Amplitude* ConstGet(const kamC_Amplitude& amplitude, const cow_String&)
