@@ -73,7 +73,8 @@ public:
             {
                 const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, i));
                 rows += std::to_string(sqlite3_column_type(statement, i)) + ":";
-                rows.append(bytes ? bytes : "", static_cast<std::size_t>(sqlite3_column_bytes(statement, i))) += "|";
+                rows.append(bytes ? bytes : "",
+                            static_cast<std::size_t>(sqlite3_column_bytes(statement, i))) += "|";
             }
             rows += "\n";
         }
