@@ -113,7 +113,7 @@ void RegisterClasses(Step step)
     }
     omi_Singleton<dbc_OldClassRegistrar>::Finalize();
     omi_Singleton<dbc_OldClassRegistrar>::Instance()->Register(
-        new dbc_OldClassRegistrar::Holder(new OldVersion(step)), 4);
+        cow_NewHolder<dbc_OldClassVersion>(new OldVersion(step)), 4);
 }
 
 void FillTable(rfm_Database& database, const rfm_TableInfo& table, std::int64_t rows)

@@ -102,7 +102,7 @@ void tst_Release::Has(const tst_Form& form, std::function<void(const cls_WriteVi
 void tst_Release::Had(const tst_OldForm& old)
 {
     omi_Singleton<dbc_OldClassRegistrar>::Instance()->Register(
-        new dbc_OldClassRegistrar::Holder(new OldVersion(old)), 4);
+        cow_NewHolder<dbc_OldClassVersion>(new OldVersion(old)), 4);
 }
 
 void tst_MakeStore(const std::string& path, const std::vector<tst_Form>& forms)
