@@ -18,6 +18,9 @@ void dbc_OldClassRegistrar::Register(Holder* holder, unsigned mask)
 bool dbc_OldClassRegistrar::Has(const std::type_info& versionClass) const
 {
     const auto isSame = [&versionClass](const Registration& registration)
-    { return typeid(*registration.holder->ConstGet()) == versionClass; };
+    {
+        const dbc_OldClassVersion& version = *registration.holder->ConstGet();
+        return typeid(version) == versionClass;
+    };
     return std::any_of(versions.begin(), versions.end(), isSame);
 }

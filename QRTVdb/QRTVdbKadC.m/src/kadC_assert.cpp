@@ -9,8 +9,8 @@ constexpr const char* texts[] = {
     "Frequency value must be greater than zero.",          // 0
     "Initial remeshing sweeps must be greater than zero.", // 1
     "Sweeps per increment must be greater than zero.",     // 2
-    "Free boundary upwinding factor must be greater than or equal to zero and less than or equal to "
-    "one.",                                                                                          // 3
+    ("Free boundary upwinding factor must be greater than or equal to zero and less than or equal to "
+     "one."),                                                                                        // 3
     "Initial feature angle must be greater than or equal to zero and less than or equal to 180.",    // 4
     "Transition feature angle must be greater than or equal to zero and less than or equal to 180.", // 5
     "Volumetric smoothing weight must be greater than or equal to zero.",                            // 6

@@ -10,8 +10,8 @@ constexpr const char* texts[] = {
     "Suppressed remeshing rules cannot be changed.",                           // 1
     "The step for the remeshing rule cannot be found in the current model.",   // 2
     "The step type is invalid for remeshing rules.",                           // 3
-    "Invalid variables defined for the remeshing rule. Only error variables may be included in remeshing "
-    "rules.",                                                                                 // 4
+    ("Invalid variables defined for the remeshing rule. Only error variables may be included in remeshing "
+     "rules."),                                                                               // 4
     "Orphan mesh nodes and elements are not allowed in the region for remeshing rules.",      // 5
     "Target errors must be specified for both the minimum and maximum base solution values.", // 6
     "Specified target errors must be equal to or greater than zero.",                         // 7
