@@ -165,7 +165,8 @@ TEST(OldClasses, AreRegisteredOnceHoweverOftenTheirModuleComesUp)
         {&typeid(tst_Plain_100), 5}, {&typeid(tst_Shared_100), 5}, {&typeid(tst_Shared_200), 4}};
     for (std::size_t i = 0; i < expected.size(); ++i)
     {
-        EXPECT_EQ(*expected[i].first, typeid(registrar.Version(count + i))) << i;
+        const dbc_OldClassVersion& version = registrar.Version(count + i);
+        EXPECT_EQ(*expected[i].first, typeid(version)) << i;
         EXPECT_EQ(expected[i].second, registrar.Mask(count + i)) << i;
     }
 }

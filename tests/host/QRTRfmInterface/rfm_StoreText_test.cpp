@@ -43,7 +43,7 @@ void Execute(const std::string& store, const std::string& sql)
 std::vector<std::string> RawRows(const std::string& store)
 {
     std::vector<std::string> rows;
-    const auto collect = [&rows](const std::string& file, const std::string& sql)
+    const auto collect = [](const std::string& file, const std::string& sql)
     {
         std::vector<std::string> found;
         sqlite3* connection = nullptr;
