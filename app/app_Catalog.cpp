@@ -213,6 +213,13 @@ void AddEnumsOf(cls_Value::Object& enums, const cls_Description& description)
     }
 }
 
+/// The key of a label: a class id as everywhere, or a plain number, which is less than any class id.
+std::string KeyText(int key)
+{
+    constexpr int leastClassId = 0x10000;
+    return key < leastClassId ? std::to_string(key) : IdText(static_cast<unsigned>(key));
+}
+
 cls_Value::Object AllLabels()
 {
     cls_Value::Object maps;
@@ -220,7 +227,7 @@ cls_Value::Object AllLabels()
     {
         cls_Value::Object rows;
         for (const cls_Label& label : labels.rows())
-            rows.emplace_back(std::to_string(label.key), label.text);
+            rows.emplace_back(KeyText(label.key), label.text);
         maps.emplace_back(labels.name, std::move(rows));
     }
     return maps;

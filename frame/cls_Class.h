@@ -186,12 +186,9 @@ public:                                                                         
 
 /// Begins the declaration of an abstract root, held through `cow_Virtual`.
 #define CLS_ABSTRACT_ROOT(Self, Id, SchemaVersion)                                                           \
-    CLS_COMMON(Self, mem_AllocationOperators, Id, SchemaVersion)                                             \
-    CLS_ROOT_COMMON(Self)                                                                                    \
-    static constexpr bool cls_IsDirect = false;                                                              \
-    virtual ~Self() = default;                                                                               \
-    virtual Self* Copy() const = 0;                                                                          \
-    virtual void DBWrite(const cls_WriteVisitor& visitor) const;                                             \
+    CLS_ABSTRACT_ROOT_SLOTS(Self, Id, SchemaVersion)                                                         \
+    CLS_SLOT_ABSTRACT_COPY                                                                                   \
+    CLS_SLOT_WRITE                                                                                           \
     virtual unsigned DynTypeId() const = 0;
 
 /// Begins the declaration of a root that has objects of its own, held through `cow_Virtual`.
@@ -210,12 +207,18 @@ public:                                                                         
     static constexpr bool cls_IsDirect = false;                                                              \
     virtual ~Self() = default;
 
+/// The same for an abstract root, with CLS_SLOT_ABSTRACT_COPY among its operations.
+#define CLS_ABSTRACT_ROOT_SLOTS(Self, Id, SchemaVersion) CLS_CONCRETE_ROOT_SLOTS(Self, Id, SchemaVersion)
+
 /// The operation that copies an object of a root.
 #define CLS_SLOT_COPY                                                                                        \
     virtual cls_Self* Copy() const                                                                           \
     {                                                                                                        \
         return new cls_Self(*this);                                                                          \
     }
+
+/// The operation that copies an object of a family, left to its classes.
+#define CLS_SLOT_ABSTRACT_COPY virtual cls_Self* Copy() const = 0;
 
 /// The operation that writes an object of a root.
 #define CLS_SLOT_WRITE virtual void DBWrite(const cls_WriteVisitor& visitor) const;

@@ -10,10 +10,15 @@ struct cls_ClassLabel
 {
     unsigned classId;
     const char* text;
+    /// What the map has as the untranslated label, where it is not `text`.
+    const char* name = nullptr;
 };
 
 /// Adds the labels in their order, translated to the language in force.
 OVR_EXPORT void cls_FillLabels(uti_TranslationMap& map, std::span<const cls_ClassLabel> labels);
+
+/// The labels by class id, not translated, for the catalogue.
+OVR_EXPORT std::vector<cls_Label> cls_RowsOf(std::span<const cls_ClassLabel> labels);
 
 /// Base of the label map `X` of a module: a singleton, filled at its first use, in the language then in
 /// force.

@@ -1,5 +1,5 @@
 #include "ModuleTest.h"
-#include "atr_Catalogue.h"
+#include "Parentheses.h"
 #include "kflC_Filter.h"
 #include "kflC_TypeLabelMap.h"
 #include "kflC_assert.h"
@@ -7,24 +7,6 @@
 
 namespace
 {
-
-/// Puts each text in parentheses, as long as it lives.
-class Parentheses final : public atr_Catalogue
-{
-public:
-    Parentheses() : before(atr_setCatalogue(this)) {}
-    ~Parentheses() override { atr_setCatalogue(before); }
-
-    const char* Lookup(const char* text) const override
-    {
-        translation = "(" + std::string(text) + ")";
-        return translation.c_str();
-    }
-
-private:
-    mutable std::string translation;
-    const atr_Catalogue* before;
-};
 
 constexpr const char* source = "QRTVdb/QRTVdbKflC.m/src/kflC_assert";
 

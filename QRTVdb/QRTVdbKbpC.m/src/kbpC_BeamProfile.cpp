@@ -1,0 +1,3 @@
+#include "kbpC_BeamProfile.h"
+
+CLS_IMPLEMENT(kbpC_BeamProfile)
