@@ -198,6 +198,7 @@ public:
             std::uninitialized_fill_n(place, run, value);
             return run;
         };
+        Resize(n);
         Construct(n - count, make);
     }
 
@@ -214,7 +215,11 @@ public:
     }
 
     /// Appends all elements of `other`, which may be this list.
-    void Concatenate(const cow_List& other) { ConstructFrom(other, 0, other.count); }
+    void Concatenate(const cow_List& other)
+    {
+        Resize(PositionFor(std::int64_t{count} + other.count) - offset);
+        ConstructFrom(other, 0, other.count);
+    }
 
     /// Replaces the content by `n` elements.
     void SetFromArray(const T* array, int n)
@@ -784,13 +789,14 @@ private:
         const int position = n == 0 ? 0 : offset + n;
         const int keptSlots = static_cast<int>((std::int64_t{position} + BlockSize() - 1) >> blockShift);
         const int lastPlace = position & (BlockSize() - 1);
+        const bool isSharedBlockCut = lastPlace != 0 && table[keptSlots - 1]->share > 1;
         // What can throw comes first, so that a failed copy leaves all elements in place.
-        if (lastPlace != 0 && table[keptSlots - 1]->share > 1)
+        if (isSharedBlockCut)
             IsolateBlock(keptSlots - 1, lastPlace);
-        else if (lastPlace != 0)
-            DestroyDown(At(position), table[keptSlots - 1]->data + RangeIn(keptSlots - 1).end);
         for (int slot = keptSlots; slot < tableSize; ++slot)
             DropBlock(slot);
+        if (lastPlace != 0 && !isSharedBlockCut)
+            DestroyDown(At(position), table[keptSlots - 1]->data + RangeIn(keptSlots - 1).end);
         count = n;
         FitTable(position);
         if (n == 0)
@@ -902,18 +908,16 @@ private:
         int constructed = 0;
     };
 
-    /// Extends the list by `n` elements: make(place, done, run) constructs at most `run` of them side by
-    /// side, all that it tells to have made or none.
+    /// Extends the list by `n` elements, for which the private table has room: make(place, done, run)
+    /// constructs at most `run` of them side by side, all that it tells to have made or none.
     template <class Make>
     void Construct(int n, Make make)
     {
-        CopyArray();
         CloseEnds();
-        const int end = PositionFor(std::int64_t{count} + n);
-        FitTable(end);
         if (n == 0)
             return;
         IsolateRange(count, count + n - 1);
+        const int end = offset + count + n;
         Uncounted added(*this);
         for (int position = offset + count; position < end;)
         {
