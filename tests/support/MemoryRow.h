@@ -18,7 +18,7 @@ public:
     /// What a field without value holds.
     static constexpr std::monostate none{};
 
-    explicit MemoryRow(Fields fields = {}) : fields(std::move(fields)) {}
+    explicit MemoryRow(Fields fields = {}, std::int64_t oid = 1) : fields(std::move(fields)), oid(oid) {}
 
     const Fields& All() const { return fields; }
 
@@ -47,7 +47,7 @@ public:
     void PutBool(const rfm_FieldHandle& field, bool value) override { fields[Name(field)] = value; }
     void PutAbsent(const rfm_FieldHandle& field) override { fields[Name(field)] = none; }
 
-    std::int64_t Oid() const override { return 1; }
+    std::int64_t Oid() const override { return oid; }
 
 private:
     static std::string Name(const rfm_FieldHandle& field)
@@ -79,6 +79,7 @@ private:
     }
 
     Fields fields;
+    std::int64_t oid;
 };
 
 /// One line of a table of conversions: what the input row holds, and all that is put into the output row.

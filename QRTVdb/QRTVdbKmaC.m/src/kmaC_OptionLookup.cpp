@@ -1,7 +1,7 @@
 #include "kmaC_OptionLookup.h"
 
 #include "atr_translate.h"
-#include "nex_canDynamicCastRef.h"
+#include "nex_Exceptions.h"
 
 #include <algorithm>
 #include <iterator>

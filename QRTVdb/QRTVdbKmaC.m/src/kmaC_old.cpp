@@ -5,8 +5,12 @@
 #include "dbc_DeclaredVersion.h"
 #include "dbc_Fields.h"
 #include "dbc_InputDatabase.h"
+#include "dbc_NewFields.h"
 #include "dbc_OutputDatabase.h"
 #include "dbc_Utils.h"
+
+#include <algorithm>
+#include <climits>
 
 namespace
 {
@@ -16,7 +20,11 @@ constexpr unsigned lateMask = 5;
 
 constexpr unsigned materialId = 0x2380001;
 constexpr unsigned optionId = 0x2380002;
+constexpr unsigned elasticId = 0x238001E;
+constexpr unsigned eosId = 0x2380020;
 constexpr unsigned tableId = 0x2380058;
+constexpr unsigned eosShearId = 0x2380060;
+constexpr unsigned viscosityId = 0x2380090;
 
 constexpr auto material2305 = dbc_Attributes(
     dbc_Object(0, "acousticMedium", 0x2380004), dbc_Object(1, "brittleCracking", 0x2380007),
@@ -129,21 +137,42 @@ dbc_DatabaseConverter& Converter()
     return *omi_Singleton<dbc_DatabaseConverterHolder>::Instance()->GetDatabaseConverter();
 }
 
+/// The row of class `classId` whose number a field holds; null if there is none.
+const dbc_Row* TargetOf(const dbc_Row& row, const rfm_FieldHandle& number, unsigned classId)
+{
+    const dbc_Table* table = Converter().GetInputDatabase().GetInputTable(classId);
+    return table && dbc_Has(row, number) ? table->Find(row.GetInt(number)) : nullptr;
+}
+
+/// The row of an option's table, or null.
+const dbc_Row* TableOf(const dbc_Row& option)
+{
+    static const rfm_FieldHandle table = dbc_Field("table#OID");
+    return TargetOf(option, table, tableId);
+}
+
+/// With how many columns a table is stored, be it without rows.
+int ColumnsOf(const dbc_Row& table)
+{
+    static const rfm_FieldHandle numbers = dbc_Field("table#OID");
+    static const rfm_FieldHandle columns = dbc_Field("Target#Columns");
+    const dbc_Row* list = TargetOf(table, numbers, cls_ListTypeId);
+    // A conversion adds one column.
+    return list ? static_cast<int>(std::clamp<std::int64_t>(list->GetInt(columns), 0, INT_MAX - 1)) : 0;
+}
+
 /// The numbers of the table of an option; none where there is no table.
 Numbers ReadTable(const dbc_Row& option)
 {
-    static const rfm_FieldHandle tableRow = dbc_Field("table#OID");
     static const rfm_FieldHandle flag = dbc_Field("allowEmptyFirstRow");
-    Numbers numbers;
-    dbc_InputDatabase& database = Converter().GetInputDatabase();
-    if (!dbc_Has(option, tableRow) || !database.HasInputTable(tableId))
-        return numbers;
-    const dbc_Row* table = database.GetInputTable(tableId)->Find(option.GetInt(tableRow));
+    const dbc_Row* table = TableOf(option);
     if (!table)
-        return numbers;
+        return {};
+    Numbers numbers;
     numbers.allowEmptyFirstRow = dbc_Has(*table, flag) && table->GetBool(flag);
     numbers.values = omi_Singleton<dbc_Utils>::Instance()->GetAttributeArrayDoubleFromInputDatabase(
         *table, "table", numbers.columns);
+    numbers.columns = ColumnsOf(*table);
     return numbers;
 }
 
@@ -200,13 +229,14 @@ bool IsCombined(const dbc_Row& plastic, const char* data)
            plastic.GetText(hardening) == "COMBINED" && plastic.GetText(dataType) == data;
 }
 
-/// How many columns the switches of a plasticity account for.
-std::int64_t UsualColumns(const dbc_Row& plastic)
+/// Whether a table has more columns than the switches of its plasticity account for.
+bool IsWiderThanUsual(const dbc_Row& plastic, const dbc_Row& table)
 {
     static const rfm_FieldHandle temperature = dbc_Field("temperatureDependency");
     static const rfm_FieldHandle dependencies = dbc_Field("dependencies");
-    return 2 + (dbc_Has(plastic, temperature) ? plastic.GetInt(temperature) : 0) +
-           (dbc_Has(plastic, dependencies) ? plastic.GetInt(dependencies) : 0);
+    const bool hasTemperature = dbc_Has(plastic, temperature) && plastic.GetBool(temperature);
+    const std::int64_t others = dbc_Has(plastic, dependencies) ? plastic.GetInt(dependencies) : 0;
+    return ColumnsOf(table) - (hasTemperature ? 3 : 2) > others;
 }
 
 void SetStrainRange(const dbc_Row& input, dbc_Row& output)
@@ -214,7 +244,8 @@ void SetStrainRange(const dbc_Row& input, dbc_Row& output)
     static const rfm_FieldHandle range = dbc_Field("strainRangeDependency");
     if (dbc_Has(input, range))
         return;
-    output.PutBool(range, IsCombined(input, "STABILIZED") && ReadTable(input).columns > UsualColumns(input));
+    const dbc_Row* table = IsCombined(input, "STABILIZED") ? TableOf(input) : nullptr;
+    output.PutBool(range, table && IsWiderThanUsual(input, *table));
 }
 
 void TakeGamma(const dbc_Row& input, dbc_Row& output)
@@ -226,10 +257,42 @@ void TakeGamma(const dbc_Row& input, dbc_Row& output)
     if (!IsCombined(input, "PARAMETERS"))
         return;
     const Numbers numbers = ReadTable(input);
-    if (numbers.columns <= gammaColumn || numbers.values.empty())
+    if (numbers.columns <= gammaColumn)
         return;
-    output.PutDouble(gamma, numbers.values[gammaColumn]);
+    if (numbers.values.size() > gammaColumn)
+        output.PutDouble(gamma, numbers.values[gammaColumn]);
     PutTable(output, WithoutGamma(numbers));
+}
+
+/// The shear of a material's equation of state, or null.
+const dbc_Row* EosShearOf(const dbc_Row& material)
+{
+    static const rfm_FieldHandle equation = dbc_Field("eos#OID");
+    static const rfm_FieldHandle shear = dbc_Field("eosShear#OID");
+    const dbc_Row* eos = TargetOf(material, equation, eosId);
+    return eos ? TargetOf(*eos, shear, eosShearId) : nullptr;
+}
+
+/// Puts a new option into a slot of a material: what the shear of an equation of state holds, and `others`.
+void PutShear(const dbc_Row& shear, dbc_Row& material, const char* slot, unsigned classId,
+              std::span<const dbc_NewField> others)
+{
+    static const rfm_FieldHandle numbers[] = {dbc_Field("##BaseClassOID"), dbc_Field("dependencies"),
+                                              dbc_Field("table#ClassID"),  dbc_Field("table#OID"),
+                                              dbc_Field("trs#ClassID"),    dbc_Field("trs#OID")};
+    static const rfm_FieldHandle temperature = dbc_Field("temperatureDependency");
+    dbc_Table& options = *Converter().GetOutputDatabase().GetOutputTable(classId);
+    dbc_Row& option =
+        options.Edit(omi_Singleton<dbc_Utils>::Instance()->SetObj(options, slot, material, classId));
+    for (const rfm_FieldHandle& number : numbers)
+    {
+        if (dbc_Has(shear, number) && option.HasField(number))
+            option.PutInt(number, shear.GetInt(number));
+    }
+    if (dbc_Has(shear, temperature))
+        option.PutBool(temperature, shear.GetBool(temperature));
+    dbc_PutNew(option, others);
+    options.Commit(option);
 }
 
 } // namespace
@@ -246,6 +309,22 @@ void* Upgrade_kmaC_Hyperelastic_324_328(const dbc_Row&, dbc_Row& output, int)
 {
     static const rfm_FieldHandle response = dbc_Field("volumetricResponse");
     output.PutText(response, "DEFAULT");
+    return nullptr;
+}
+
+void* Upgrade_kmaC_Material_1436_1449(const dbc_Row& input, dbc_Row& output, int)
+{
+    static const rfm_FieldHandle type = dbc_Field("type");
+    static const dbc_NewField ofViscosity[] = {{"type", "NEWTONIAN"}};
+    static const dbc_NewField ofElasticity[] = {
+        {"type", "SHEAR"}, {"moduli", "LONG_TERM"}, {"noCompression", false}, {"noTension", false}};
+    const dbc_Row* shear = EosShearOf(input);
+    if (!shear)
+        return nullptr;
+    if (dbc_Has(*shear, type) && shear->GetText(type) == "VISCOUS")
+        PutShear(*shear, output, "viscosity", viscosityId, ofViscosity);
+    else
+        PutShear(*shear, output, "elastic", elasticId, ofElasticity);
     return nullptr;
 }
 
@@ -290,7 +369,8 @@ DBC_OLD_CLASS(kmaC_Material, 1106, dbc_Root(materialId), dbc_Step(1352), materia
 DBC_OLD_CLASS(kmaC_Material, 1352, dbc_Root(materialId), dbc_Step(1400), material1352)
 DBC_OLD_CLASS(kmaC_Material, 1400, dbc_Root(materialId), dbc_Step(1411), material1400)
 DBC_OLD_CLASS(kmaC_Material, 1411, dbc_Root(materialId), dbc_Step(1436), material1411)
-DBC_OLD_CLASS(kmaC_Material, 1436, dbc_Root(materialId), dbc_Step(1449), material1411)
+DBC_OLD_CLASS(kmaC_Material, 1436, dbc_Root(materialId),
+              dbc_Step(1449, DBC_FUNCTION(Upgrade_kmaC_Material_1436_1449)), material1411)
 DBC_OLD_CLASS(kmaC_Material, 1449, dbc_Root(materialId), dbc_Step(1628), material1449)
 DBC_OLD_CLASS(kmaC_Material, 1628, dbc_Root(materialId), dbc_Step(1853), material1628)
 DBC_OLD_CLASS(kmaC_Material, 1853, dbc_Root(materialId), dbc_Step(1857), material1853)

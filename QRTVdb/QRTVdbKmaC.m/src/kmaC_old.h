@@ -12,6 +12,9 @@ OVR_EXPORT void* Upgrade_kmaC_AnnealTemperature_307_452(const dbc_Row& input, db
 /// The volumetric response begins anew with version 328.
 OVR_EXPORT void* Upgrade_kmaC_Hyperelastic_324_328(const dbc_Row& input, dbc_Row& output, int number);
 
+/// The shear of an equation of state becomes the material's viscosity or elasticity.
+OVR_EXPORT void* Upgrade_kmaC_Material_1436_1449(const dbc_Row& input, dbc_Row& output, int number);
+
 /// Of stabilized data, more columns than the switches account for are ranges of strain. Of the parameters of
 /// combined hardening, the third column becomes the attribute `gamma`.
 OVR_EXPORT void* Upgrade_kmaC_Plastic_203_419(const dbc_Row& input, dbc_Row& output, int number);

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -35,6 +37,21 @@ TEST(kmaC_Material, HasEmptySlotsByDefault)
     EXPECT_TRUE(material.description.IsEmpty());
     EXPECT_TRUE(material.materialIdentifier.IsEmpty());
     EXPECT_EQ(passes, Verdict(material));
+}
+
+TEST(kmaC_Material, NeedsNoMoreThanACountForAnEmptySlotAndNothingForACopy)
+{
+    const auto& attributes = kmaC_Material::Description().Attributes();
+    const auto slots = std::count_if(attributes.begin(), attributes.end(),
+                                     [](const cls_Attribute& attribute)
+                                     { return attribute.kind->Id() == cls_KindEnm::Optional; });
+    const std::size_t before = mem_BlocksInUse();
+    const kmaC_Material material;
+    const std::size_t made = mem_BlocksInUse();
+    EXPECT_EQ(static_cast<std::size_t>(slots), made - before);
+    const kmaC_Material copy(material);
+    EXPECT_EQ(made, mem_BlocksInUse());
+    EXPECT_LE(sizeof(kmaC_Material) + static_cast<std::size_t>(slots) * sizeof(int), 2048u);
 }
 
 TEST(kmaC_Material, IsSharedWithoutAllocating)

@@ -1,6 +1,7 @@
 #include "kmaC_old.h"
 
 #include "LibraryEnvironment.h"
+#include "MemoryDatabase.h"
 #include "OldVersionTest.h"
 
 #include <algorithm>
@@ -57,6 +58,116 @@ TEST(Upgrade, PlasticityWithoutATableOfInterestTakesDefaults)
     TryConversion(Upgrade_kmaC_Plastic_419_1107,
                   {{"isotropic", {{"hardening", "ISOTROPIC"}, {"gamma", 5.0}}, {{"numBackstresses", one}}},
                    {"the new form", {{"hardening", "ISOTROPIC"}, {"numBackstresses", std::int64_t{3}}}, {}}});
+}
+
+constexpr unsigned elasticId = 0x238001E;
+constexpr unsigned eosId = 0x2380020;
+constexpr unsigned eosShearId = 0x2380060;
+constexpr unsigned viscosityId = 0x2380090;
+
+MemoryRow::Fields Merged(MemoryRow::Fields fields, const MemoryRow::Fields& more)
+{
+    for (const auto& [name, value] : more)
+        fields[name] = value;
+    return fields;
+}
+
+/// A store of one equation of state with a shear, and of tables for what that may become.
+class EosShear : public testing::Test
+{
+protected:
+    EosShear()
+    {
+        databases.input[eosId].Insert(
+            4, {{"eosShear#ClassID", std::int64_t{eosShearId}}, {"eosShear#OID", std::int64_t{6}}});
+        databases.output.emplace(elasticId, MemoryTable(Merged(common, ofElasticity)));
+        databases.output.emplace(
+            viscosityId,
+            MemoryTable(Merged(common, {{"trs#ClassID", none}, {"trs#OID", none}, {"type", none}})));
+        databases.output.at(elasticId).Insert(2, {{"type", "ISOTROPIC"}});
+    }
+
+    /// What the material gets of a shear of these fields.
+    MemoryRow::Fields Convert(const MemoryRow::Fields& shear)
+    {
+        databases.input[eosShearId].Insert(6, shear);
+        const MemoryRow input({{"eos#ClassID", std::int64_t{eosId}}, {"eos#OID", std::int64_t{4}}});
+        MemoryRow output;
+        EXPECT_EQ(nullptr, Upgrade_kmaC_Material_1436_1449(input, output, 0));
+        return output.All();
+    }
+
+    MemoryRow::Fields common = {{"##BaseClassOID", none},
+                                {"temperatureDependency", none},
+                                {"dependencies", none},
+                                {"table#ClassID", none},
+                                {"table#OID", none}};
+    MemoryRow::Fields ofElasticity = {
+        {"type", none}, {"moduli", none}, {"noCompression", none}, {"noTension", none}};
+    MemoryRow::Fields shear = {{"##BaseClassOID", std::int64_t{11}},
+                               {"temperatureDependency", true},
+                               {"dependencies", std::int64_t{2}},
+                               {"table#ClassID", std::int64_t{0x2380058}},
+                               {"table#OID", std::int64_t{13}}};
+    MemoryRow::Fields trs = {{"trs#ClassID", std::int64_t{0x2380050}}, {"trs#OID", std::int64_t{17}}};
+    MemoryDatabases databases;
+};
+
+TEST_F(EosShear, BecomesViscosityWhereItIsViscous)
+{
+    EXPECT_EQ((MemoryRow::Fields{{"viscosity#ClassID", std::int64_t{viscosityId}}, {"viscosity#OID", one}}),
+              Convert(Merged(Merged(shear, trs), {{"type", "VISCOUS"}})));
+    EXPECT_EQ(
+        (std::map<std::int64_t, MemoryRow::Fields>{{1, Merged(Merged(shear, trs), {{"type", "NEWTONIAN"}})}}),
+        databases.output.at(viscosityId).All());
+    EXPECT_EQ(1, databases.output.at(elasticId).RowCount());
+}
+
+TEST_F(EosShear, MayHaveNoShiftOfTime)
+{
+    Convert(Merged(shear, {{"type", "VISCOUS"}, {"trs#ClassID", none}, {"trs#OID", none}}));
+    EXPECT_EQ((std::map<std::int64_t, MemoryRow::Fields>{
+                  {1, Merged(shear, {{"type", "NEWTONIAN"}, {"trs#ClassID", none}, {"trs#OID", none}})}}),
+              databases.output.at(viscosityId).All());
+}
+
+TEST_F(EosShear, BecomesElasticityWhereItIsAnythingElse)
+{
+    for (const char* type : {"ELASTIC", "viscous", ""})
+    {
+        const std::int64_t made = databases.output.at(elasticId).RowCount() + 2;
+        EXPECT_EQ((MemoryRow::Fields{{"elastic#ClassID", std::int64_t{elasticId}}, {"elastic#OID", made}}),
+                  Convert(Merged(Merged(shear, trs), {{"type", type}})))
+            << type;
+        EXPECT_EQ(
+            Merged(
+                shear,
+                {{"type", "SHEAR"}, {"moduli", "LONG_TERM"}, {"noCompression", false}, {"noTension", false}}),
+            databases.output.at(elasticId).All().at(made))
+            << type << ": elasticity has no shift of time";
+    }
+    EXPECT_EQ(0, databases.output.at(viscosityId).RowCount());
+}
+
+TEST_F(EosShear, IsLeftAloneWhereThereIsNone)
+{
+    const struct
+    {
+        const char* input;
+        MemoryRow::Fields material;
+    } rows[] = {
+        {"no equation of state", {}},
+        {"an equation of state that is absent", {{"eos#ClassID", none}, {"eos#OID", none}}},
+        {"an equation of state without shear",
+         {{"eos#ClassID", std::int64_t{eosId}}, {"eos#OID", std::int64_t{5}}}},
+        {"a shear that is not there", {{"eos#ClassID", std::int64_t{eosId}}, {"eos#OID", std::int64_t{4}}}},
+    };
+    databases.input.at(eosId).Insert(5, {{"eosShear#ClassID", none}, {"eosShear#OID", none}});
+    for (const auto& row : rows)
+        TryConversion(Upgrade_kmaC_Material_1436_1449, {{row.input, row.material, {}}});
+    databases.input.clear();
+    for (const auto& row : rows)
+        TryConversion(Upgrade_kmaC_Material_1436_1449, {{row.input, row.material, {}}});
 }
 
 struct Form

@@ -287,6 +287,14 @@ TEST(kmaC_Hyperelastic, ChecksItsTestDataInOrder)
                  o.hysteresis = WithBlankTable<kmaC_Hysteresis>();
              },
              blankRow},
+            {"hysteresis before properties",
+             [](T& o)
+             {
+                 o.type = T::TypeEnm::USER;
+                 o.properties = -1;
+                 o.hysteresis = WithBlankTable<kmaC_Hysteresis>();
+             },
+             blankRow},
             {"hysteresis of an anisotropic material",
              [](T& o)
              {
@@ -334,6 +342,13 @@ TEST(kmaC_Hyperelastic, ChecksPropertiesAndTable)
                   {
                       {"no properties", [](T& o) { o.properties = 0; }, passes},
                       {"negative properties", [](T& o) { o.properties = -1; }, fewProperties},
+                      {"negative properties with test data",
+                       [](T& o)
+                       {
+                           o.properties = -1;
+                           o.testData = true;
+                       },
+                       fewProperties},
                       {"negative properties of another potential",
                        [](T& o)
                        {
@@ -369,6 +384,13 @@ TEST(kmaC_Hyperelastic, ChecksAnisotropicMaterials)
         valid,
         {
             {"Holzapfel without directions", [](T& o) { o.anisotropicType = HOLZAPFEL; }, emptyMessage},
+            {"Holzapfel with minus one direction",
+             [](T& o)
+             {
+                 o.anisotropicType = HOLZAPFEL;
+                 o.localDirections = -1;
+             },
+             emptyMessage},
             {"Holzapfel with one direction",
              [](T& o)
              {
@@ -442,13 +464,17 @@ TEST(kmaC_Hyperfoam, ChecksItsRulesInOrder)
     CheckRules<T>(T(),
                   {
                       {"order 0", [](T& o) { o.n = 0; }, lowOrder},
+                      {"order 1", [](T& o) { o.n = 1; }, passes},
                       {"order 6", [](T& o) { o.n = 6; }, passes},
                       {"order 7", [](T& o) { o.n = 7; }, highOrder},
                       {"ratio 0", [](T& o) { o.poisson = 0.0; }, passes},
+                      {"ratio -0.0", [](T& o) { o.poisson = -0.0; }, passes},
                       {"ratio 0.5", [](T& o) { o.poisson = 0.5; }, passes},
+                      {"ratio not set", [](T& o) { o.poisson = cls_UnsetDouble; }, passes},
                       {"ratio just below 0", [](T& o) { o.poisson = justBelowZero; }, lowRatio},
                       {"ratio just above 0.5", [](T& o) { o.poisson = std::nextafter(0.5, 1.0); }, highRatio},
                       {"ratio infinite", [](T& o) { o.poisson = infinite; }, highRatio},
+                      {"ratio minus infinite", [](T& o) { o.poisson = -infinite; }, lowRatio},
                       {"ratio NaN", [](T& o) { o.poisson = notANumber; }, lowRatio},
                       {"order before ratio",
                        [](T& o)
@@ -487,8 +513,10 @@ TEST(kmaC_LowDensityFoam, BoundsTheStress)
         {
             {"stress not set", [](T& o) { o.maxAllowablePrincipalStress = cls_UnsetDouble; }, passes},
             {"stress above 0", [](T& o) { o.maxAllowablePrincipalStress = 5e-324; }, passes},
+            {"stress infinite", [](T& o) { o.maxAllowablePrincipalStress = infinite; }, passes},
             {"stress 0", [](T& o) { o.maxAllowablePrincipalStress = 0.0; }, lowStressLimit},
-            {"stress below 0", [](T& o) { o.maxAllowablePrincipalStress = -1.0; }, lowStressLimit},
+            {"stress just below 0", [](T& o) { o.maxAllowablePrincipalStress = justBelowZero; },
+             lowStressLimit},
             {"stress NaN", [](T& o) { o.maxAllowablePrincipalStress = notANumber; }, lowStressLimit},
             {"test data that are not scanned",
              [](T& o)
@@ -555,6 +583,29 @@ TEST(kmaC_Plastic, ChecksDependenciesThenSubOptionsInOrder)
                        {
                            o.annealTemperature = WithNegativeDependencies<kmaC_AnnealTemperature>();
                            o.tensileFailure = WithBlankTable<kmaC_TensileFailure>();
+                       },
+                       fewDependencies},
+                      {"annealTemperature before the hardening that tensileFailure takes",
+                       [](T& o)
+                       {
+                           o.annealTemperature = WithNegativeDependencies<kmaC_AnnealTemperature>();
+                           o.hardening = T::HardeningEnm::KINEMATIC;
+                           o.tensileFailure = kmaC_Option<kmaC_TensileFailure>(new kmaC_TensileFailure);
+                       },
+                       fewDependencies},
+                      {"the hardening that tensileFailure takes before the table",
+                       [](T& o)
+                       {
+                           o.hardening = T::HardeningEnm::KINEMATIC;
+                           o.tensileFailure = kmaC_Option<kmaC_TensileFailure>(new kmaC_TensileFailure);
+                           o.table = BlankTable();
+                       },
+                       tensileFailureRefused},
+                      {"tensileFailure before the table",
+                       [](T& o)
+                       {
+                           o.tensileFailure = WithNegativeDependencies<kmaC_TensileFailure>();
+                           o.table = BlankTable();
                        },
                        fewDependencies},
                       {"ornl, which has no rules",
@@ -660,6 +711,13 @@ TEST(kmaC_Plastic, ChecksTheTableButForUserHardening)
                              o.table = BlankTable();
                          },
                          passes},
+                        {"user hardening and negative dependencies",
+                         [](T& o)
+                         {
+                             o.hardening = T::HardeningEnm::USER;
+                             o.dependencies = -1;
+                         },
+                         fewDependencies},
                         {"blank row before first yield",
                          [](T& o) {
                              o.table = TableOf({{200.0, 0.1}, {0.0, 0.0}});
@@ -680,6 +738,8 @@ TEST(kmaC_Plastic, NeedsAColumnOfRates)
                            o.table = TableOf({{200.0, 0.0}});
                        },
                        incompleteTable},
+                      {"one column", [](T& o) { o.table = TableOf({{200.0}}); }, incompleteTable},
+                      {"three columns and no row", [](T& o) { o.table = kmaC_MaterialTable(0, 3); }, passes},
                       {"an empty table", [](T& o) { o.table = kmaC_MaterialTable(); }, incompleteTable},
                       {"two columns and another hardening",
                        [](T& o)
@@ -766,6 +826,13 @@ TEST(kmaC_Viscous, ChecksTheTableBeforeThePotential)
     CheckRules(T(), TableRows<T>());
     CheckRules<T>(T(),
                   {
+                      {"dependencies before table",
+                       [](T& o)
+                       {
+                           o.dependencies = -1;
+                           o.table = BlankTable();
+                       },
+                       fewDependencies},
                       {"table before potential",
                        [](T& o)
                        {
@@ -789,11 +856,19 @@ TEST(kmaC_Viscoelastic, ChecksItsRulesInOrder)
     };
     CheckRules<T>(T(),
                   {
+                      {"nmax least", [](T& o) { o.nmax = std::numeric_limits<int>::min(); }, shortNmax},
                       {"nmax 0", [](T& o) { o.nmax = 0; }, shortNmax},
                       {"nmax 1", [](T& o) { o.nmax = 1; }, passes},
                       {"nmax 13", [](T& o) { o.nmax = 13; }, passes},
                       {"nmax 14", [](T& o) { o.nmax = 14; }, longNmax},
                       {"volumetric preload of a traction", useVolumetricTraction, volumetricTraction},
+                      {"volumetric preload of a traction with nmax 0",
+                       [useVolumetricTraction](T& o)
+                       {
+                           useVolumetricTraction(o);
+                           o.nmax = 0;
+                       },
+                       shortNmax},
                       {"another preload of a traction",
                        [](T& o)
                        {
