@@ -16,6 +16,7 @@ struct rfm_StoreTextOptions
 {
     bool withUids = true;
     bool withChecks = true;
+    bool withEmptyColumns = true; ///< those that hold nothing in any row
 };
 
 /// Writes every row of a store; `out` takes the text piece by piece. Returns how many rows do not fit their

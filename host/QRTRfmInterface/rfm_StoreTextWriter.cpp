@@ -14,6 +14,8 @@ namespace
 /// Values longer than this do not push the ones behind them aside in every row.
 constexpr std::size_t widestColumn = 40;
 constexpr std::string_view gap = "  ";
+/// How NULL is written.
+constexpr const char* nothing = "-";
 
 /// Characters that a text of UTF-8 takes.
 std::size_t Width(std::string_view text)
@@ -162,6 +164,7 @@ private:
                 uid = options.withUids ? UidColumn::Unneeded : UidColumn::Unwanted;
             for (const rfm_RowField& field : layout.fields)
                 widths.push_back(Width(field.title));
+            isWanted.assign(widths.size(), options.withEmptyColumns);
         }
 
         void Measure(const Row& row)
@@ -170,7 +173,9 @@ private:
                 uid = UidColumn::Written;
             for (std::size_t i = 0; i < widths.size(); ++i)
             {
-                const std::size_t width = Width(Text(row, layout.fields[i]));
+                const std::string text = Text(row, layout.fields[i]);
+                isWanted[i] = isWanted[i] || text != nothing;
+                const std::size_t width = Width(text);
                 if (width <= widestColumn)
                     widths[i] = std::max(widths[i], width);
             }
@@ -201,7 +206,8 @@ private:
             std::size_t missing = 0;
             for (std::size_t i = 0; i < widths.size(); ++i)
             {
-                if (uid != UidColumn::Written && layout.hasUids && layout.fields[i].cell == uidCell)
+                if (!isWanted[i] ||
+                    (uid != UidColumn::Written && layout.hasUids && layout.fields[i].cell == uidCell))
                     continue;
                 const std::string text = textAt(i);
                 line.append(missing, ' ').append(gap).append(text);
@@ -229,7 +235,7 @@ private:
             {
                 const rfm_Cell& oid = row.cells[field.cell + 1];
                 const bool isAbsent = cell.IsNull() && oid.IsNull();
-                return isAbsent ? "-" : ClassIdText(cell) + ':' + rfm_TextOf(oid);
+                return isAbsent ? nothing : ClassIdText(cell) + ':' + rfm_TextOf(oid);
             }
             case rfm_RowField::Form::Plain:
                 break;
@@ -262,6 +268,7 @@ private:
 
         const rfm_RowLayout& layout;
         std::vector<std::size_t> widths;
+        std::vector<bool> isWanted;
         UidColumn uid = UidColumn::Written;
     };
 

@@ -257,6 +257,20 @@ TEST(StoreText, KeepsRowsWithoutCheckNumber)
               TextOf(folder / "one", {.withChecks = false}));
 }
 
+TEST(StoreText, LeavesOutColumnsThatHoldNothing)
+{
+    const TemporaryFolder folder;
+    const std::string text = "A: class 0x1, version 1\n  OID  a:text  b:object  c:object  d:integer  e:real\n"
+                             "  1    \"-\"     -         0x1:1     -          -\n"
+                             "  2    -       -         -         -          0.0\n"
+                             "B: class 0x2, version 1\n  OID  a:text\n";
+    rfm_MakeStoreOfText(folder / "one", text, "rows");
+    EXPECT_EQ("A: class 0x1, version 1  -- 2 rows\n  OID  a:text  c:object  e:real\n"
+              "  1    \"-\"     0x1:1     -\n  2    -       -         0.0\n"
+              "\nB: class 0x2, version 1  -- 0 rows\n  OID\n",
+              TextOf(folder / "one", {.withEmptyColumns = false}));
+}
+
 TEST(StoreText, MarksDamagedRowsAndKeepsThem)
 {
     const TemporaryFolder folder;
