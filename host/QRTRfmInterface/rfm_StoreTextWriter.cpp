@@ -163,8 +163,10 @@ private:
             if (layout.hasUids)
                 uid = options.withUids ? UidColumn::Unneeded : UidColumn::Unwanted;
             for (const rfm_RowField& field : layout.fields)
+            {
                 widths.push_back(Width(field.title));
-            isWanted.assign(widths.size(), options.withEmptyColumns);
+                isWanted.push_back(options.withEmptyColumns || field.cell < layout.keyWidth);
+            }
         }
 
         void Measure(const Row& row)
