@@ -1,9 +1,7 @@
-#include "Program.h"
+#include "Examples.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace
 {
@@ -14,49 +12,24 @@ using testing::HasSubstr;
 
 TEST(Controls, ExamplesKeepTheirRules)
 {
-    const Answer model = RunProgram({"check", Example("controls.json")});
-    EXPECT_EQ(0, model.exitCode);
-    EXPECT_EQ(Example("controls.json") + ": 6 objects, all rules hold\n", model.out);
-    const std::string objects = ContentOf(Example("controls.jsonl"));
-    const Answer lines = RunProgram({"check", "--lines"}, objects);
-    EXPECT_EQ(0, lines.exitCode);
-    std::string allFine;
-    for (auto count = std::count(objects.begin(), objects.end(), '\n'); count > 0; --count)
-        allFine += "{\"ok\": true}\n";
-    EXPECT_EQ(allFine, lines.out);
+    CheckModel("controls.json", 6);
+    CheckLines("controls.jsonl");
 }
 
 TEST(Controls, ExamplesComeBackFromAStore)
 {
     const ScratchFolder folder;
-    const std::string first = folder.Path("first.vdb");
-    const std::string second = folder.Path("second.vdb");
-    ASSERT_EQ(0, RunProgram({"import", Example("controls.json"), first}).exitCode);
-    const Answer exported = RunProgram({"export", first});
-    ASSERT_EQ(0, exported.exitCode);
-    EXPECT_THAT(exported.out, HasSubstr("\"kflC_OperatorFilter\""));
-    ASSERT_EQ(0, RunProgram({"import", folder.Write("again.json", exported.out), second}).exitCode);
-    EXPECT_EQ(exported.out, RunProgram({"export", second}).out);
-    EXPECT_EQ(0, RunProgram({"check", second}).exitCode);
-    const Answer shown = RunProgram({"show", second, "filters['peak']"});
+    const std::string store = folder.Path("controls.vdb");
+    ImportAndExport("controls.json", store);
+    const Answer shown = RunProgram({"show", store, "filters['peak']"});
     EXPECT_EQ(0, shown.exitCode);
+    EXPECT_THAT(shown.out, HasSubstr("kflC_OperatorFilter"));
     EXPECT_THAT(shown.out, HasSubstr("250"));
 }
 
-/// One object by its constructor word, one change of it, and one that a rule refuses.
-struct Line
-{
-    const char* call;
-    const char* path;
-    const char* change;
-    const char* value;
-    const char* badChange;
-    const char* rule;
-};
-
 TEST(Controls, AreMadeAndChangedByWords)
 {
-    const Line lines[] = {
+    const ObjectLine lines[] = {
         {"ButterworthFilter(name='f', cutoffFrequency=10)", "filters['f']", "order=20", "filters['f'].order",
          "order=21", "kflC:4"},
         {"Chebyshev1Filter(name='f', cutoffFrequency=10)", "filters['f']", "rippleFactor=2.0",
@@ -69,21 +42,8 @@ TEST(Controls, AreMadeAndChangedByWords)
         {"AdaptiveMeshControl(name='c')", "adaptiveMeshControls['c']", "remapping=FIRST_ORDER_ADVECTION",
          "adaptiveMeshControls['c'].remapping", "meshConstraintAngle=180.5", "kadC:9"},
     };
-    for (const Line& line : lines)
-    {
-        const ScratchFolder folder;
-        const std::string store = folder.Path("model.vdb");
-        ASSERT_EQ(0, RunProgram({"new", store}).exitCode);
-        const Answer made = RunProgram({"new", store, line.call});
-        EXPECT_EQ(0, made.exitCode) << line.call << '\n' << made.err;
-        const Answer changed = RunProgram({"set", store, line.path, line.change});
-        EXPECT_EQ(0, changed.exitCode) << line.change << '\n' << changed.err;
-        const Answer got = RunProgram({"get", store, line.value});
-        EXPECT_THAT(line.change, testing::EndsWith('=' + got.out.substr(0, got.out.find('\n')))) << got.err;
-        const Answer refused = RunProgram({"set", store, line.path, line.badChange});
-        EXPECT_EQ(1, refused.exitCode) << line.badChange;
-        EXPECT_THAT(refused.err, HasSubstr(line.rule)) << line.badChange;
-    }
+    for (const ObjectLine& line : lines)
+        MakeAndChange(line);
 }
 
 TEST(Controls, FiltersOfRelease821AreRefusedForTheirLimit)
