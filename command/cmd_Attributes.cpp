@@ -21,16 +21,22 @@ const cls_Description* LayerOf(const cls_Description& description, const cls_Att
     return nullptr;
 }
 
-/// Whether an enumeration's name says that it belongs to an attribute: SmoothEnm to smooth.
+/// Whether an enumeration's name says that it belongs to an attribute, by the attribute's whole name or by
+/// its last words: SmoothEnm to smooth, SweepsEnm to initialRemeshingSweeps.
 bool IsEnumOf(const omu_EnumTable& table, std::string attributeName)
 {
     std::string_view name = table.enumName;
     const std::size_t colon = name.rfind(':');
     if (colon != std::string_view::npos)
         name.remove_prefix(colon + 1);
+    for (const std::string_view ending : {"Enm", "Enum"})
+    {
+        if (name.ends_with(ending))
+            name.remove_suffix(ending.size());
+    }
     if (!attributeName.empty() && attributeName[0] >= 'a' && attributeName[0] <= 'z')
         attributeName[0] = static_cast<char>(attributeName[0] - 'a' + 'A');
-    return name == attributeName + "Enm" || name == attributeName + "Enum";
+    return attributeName.ends_with(name);
 }
 
 /// The class that an object within an attribute is of where only one can be; null otherwise.

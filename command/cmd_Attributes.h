@@ -12,7 +12,8 @@ OVR_EXPORT const char* cmd_ConstructorOf(const cls_Description& description);
 OVR_EXPORT const cls_Description* cmd_ClassOfValue(const cls_Value& value);
 
 /// The symbol that stands for "not set" in a number attribute: the only text of the enumeration that the
-/// class has for it, as SOLVER_DEFAULT of SmoothEnm for `smooth`. Null if there is none.
+/// class has for it or for the last words of its name, as SOLVER_DEFAULT of SmoothEnm for `smooth`. Null if
+/// there is none.
 OVR_EXPORT const char* cmd_UnsetSymbolOf(const cls_Description& description, const cls_Attribute& attribute);
 
 /// The classes that have objects, are `root` or derive from it, and have this constructor word.
