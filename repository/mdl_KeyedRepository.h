@@ -66,28 +66,33 @@ public:
     /// Shares the handle.
     bool Insert(const K& key, const Handle& handle)
     {
+        // Either may be a part of the entry that goes.
+        const K newKey(key);
+        const Handle object(handle);
         this->changed = true;
-        const bool isReplaced = IsMember(key);
+        const bool isReplaced = IsMember(newKey);
         if (isReplaced)
-            this->content.Remove(key);
-        if (!this->content.InsertUnlessMember(key, handle))
+            this->content.Remove(newKey);
+        if (!this->content.InsertUnlessMember(newKey, object))
             return false;
         if (isReplaced)
-            mdl_RecordRemove(this->path, key);
-        mdl_RecordInsert(this->path, key);
+            mdl_RecordRemove(this->path, newKey);
+        mdl_RecordInsert(this->path, newKey);
         this->SetTimeStamp();
-        Actual().AddToDelta(key);
+        Actual().AddToDelta(newKey);
         return true;
     }
 
     /// True if the key was there.
     bool Remove(const K& key)
     {
-        if (!this->content.Remove(key))
+        // It may be the key of the entry that goes.
+        const K oldKey(key);
+        if (!this->content.Remove(oldKey))
             return false;
-        mdl_RecordRemove(this->path, key);
+        mdl_RecordRemove(this->path, oldKey);
         this->SetTimeStamp();
-        Actual().AddToDelta(key);
+        Actual().AddToDelta(oldKey);
         return true;
     }
 

@@ -1,11 +1,16 @@
 #include "mdl_TestContainers.h"
 
+#include "MementoMocks.h"
+#include "VirtualSlot.h"
 #include "ddr_Model.h"
 #include "omu_ChangeHistory.h"
 #include "thr_ThreadSingleton.h"
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -238,12 +243,19 @@ TEST_F(Repositories, InsertInEveryForm)
     EXPECT_EQ(TextOf(named.Keys()), "('copy', 'nothing', 'share')");
 }
 
-TEST_F(Repositories, TakeNewIdentities)
+TEST_F(Repositories, TakeAnObjectOfTheirOwnAgain)
 {
     kamC_AmplitudeContainer named;
-    const cls_Uid before = named.Uid();
-    named.NewUid();
-    EXPECT_NE(named.Uid(), before);
+    named.Insert("A", NewDecay(1.0));
+    const kamC_Amplitude* object = named.ConstGet("A");
+    Changes();
+    const auto& entry = **named.ConstGetMap().Root();
+    EXPECT_TRUE(named.Insert(entry.Key(), entry.Value()));
+    EXPECT_EQ(named.ConstGet("A"), object);
+    EXPECT_EQ(Changes(), "(\"Remove\", \"A\")\n(\"Insert\", \"A\", -99)\n");
+    EXPECT_TRUE(named.Remove((*named.ConstGetMap().Root())->Key()));
+    EXPECT_EQ(Changes(), "(\"Remove\", \"A\")\n");
+    EXPECT_EQ(TextOf(named.DeltaList()), "('A',)");
 }
 
 TEST_F(Repositories, ByNumberRecordTheNumber)
@@ -381,6 +393,128 @@ TYPED_TEST(StoredRepository, IsHeldByItsWrapperAsACopy)
     EXPECT_NE(wrapper.Uid(), before);
 }
 
+/// The rows that the writing of an extension begins: class id and identity. The fields in between are noted
+/// by their name, under number 0.
+class BegunRows
+{
+public:
+    struct Row
+    {
+        unsigned classId;
+        cls_Uid uid;
+        std::string field;
+    };
+
+    explicit BegunRows(const mdl_Extension& extension, bool isWrittenAlready = false)
+    {
+        using testing::_;
+        using testing::Return;
+        ON_CALL(memento, StartWrite)
+            .WillByDefault(
+                [this, isWrittenAlready](unsigned classId, const cls_Uid& uid)
+                {
+                    rows.push_back({classId, uid, ""});
+                    return isWrittenAlready ? 0 : 1;
+                });
+        ON_CALL(memento, OpenBase).WillByDefault(Return(&memento));
+        ON_CALL(memento, OpenField)
+            .WillByDefault(
+                [this](const cls_FieldHandle& field, const cls_ErasedHandle*)
+                {
+                    EXPECT_EQ(field.Index(), -1);
+                    rows.push_back({0, cls_Uid(), field.Name().CString()});
+                    return &memento;
+                });
+        ON_CALL(memento, OpenList).WillByDefault(Return(&list));
+        ON_CALL(memento, OpenMapString2Obj).WillByDefault(Return(&map));
+        ON_CALL(memento, OpenMapInt2Obj).WillByDefault(Return(&numberedMap));
+        extension.DBWrite(cls_WriteVisitor(&memento));
+    }
+
+    /// As "0xA0001 0xA000D map 0x230002".
+    std::string AsText() const
+    {
+        std::ostringstream text;
+        for (const Row& row : rows)
+        {
+            text << (text.tellp() == 0 ? "" : " ");
+            if (row.field.empty())
+                text << "0x" << std::hex << std::uppercase << row.classId;
+            else
+                text << row.field;
+        }
+        return text.str();
+    }
+
+    cls_Uid UidOf(unsigned classId) const
+    {
+        for (const Row& row : rows)
+        {
+            if (row.classId == classId)
+                return row.uid;
+        }
+        return cls_Uid();
+    }
+
+private:
+    testing::NiceMock<WriteMementoMock> memento;
+    testing::NiceMock<WriteListMock> list;
+    testing::NiceMock<WriteMapMock<cls_WriteMapString2Obj, const cow_String&>> map;
+    testing::NiceMock<WriteMapMock<cls_WriteMapInt2Obj, int>> numberedMap;
+    std::vector<Row> rows;
+};
+
+TEST_F(Repositories, WriteTheirBaseThenTheirCollection)
+{
+    EXPECT_EQ(BegunRows(kamC_AmplitudeContainer()).AsText(), "0x244000C 0xA0001 0xA000D map 0x230002");
+    EXPECT_EQ(BegunRows(tst_Numbered()).AsText(), "0x3E70001 0xA0001 0xA000D map 0x230002");
+    EXPECT_EQ(BegunRows(tst_Ordered()).AsText(), "0x3E70003 0xA0001 0xA000D list 0x230001");
+    EXPECT_EQ(BegunRows(kamC_ACWrapper()).AsText(),
+              "0x2440017 0xA000D extension 0x244000C 0xA0001 0xA000D map 0x230002");
+    EXPECT_EQ(BegunRows(kamC_AmplitudeContainer(), true).AsText(), "0x244000C") << "once is enough";
+    EXPECT_EQ(BegunRows(kamC_ACWrapper(), true).AsText(), "0x2440017");
+}
+
+TYPED_TEST(StoredRepository, TakesANewIdentityInEveryLayer)
+{
+    using Wrapper = mdl_ExtensionWrapper<TypeParam>;
+    const auto check = [](mdl_Extension& extension, std::initializer_list<unsigned> layers)
+    {
+        const BegunRows before(extension);
+        extension.NewUid();
+        const BegunRows after(extension);
+        for (const unsigned layer : layers)
+        {
+            EXPECT_FALSE(after.UidOf(layer).IsBlank());
+            EXPECT_NE(after.UidOf(layer), before.UidOf(layer)) << std::hex << layer;
+        }
+    };
+    TypeParam repository;
+    check(repository, {TypeParam::TypeId(), mdl_Repository::TypeId(), mdl_Extension::TypeId()});
+    Wrapper wrapper;
+    check(wrapper, {Wrapper::TypeId(), mdl_Extension::TypeId()});
+}
+
+TYPED_TEST(StoredRepository, HasItsVirtualOperationsInOrder)
+{
+    // Two slots of the destructor come first.
+    EXPECT_EQ(VirtualSlotOf(&TypeParam::Copy), 2u);
+    EXPECT_EQ(VirtualSlotOf(&TypeParam::GetValue), 3u);
+    EXPECT_EQ(VirtualSlotOf(&TypeParam::ConstGetValue), 4u);
+    EXPECT_EQ(VirtualSlotOf(&TypeParam::DynTypeId), 5u);
+    EXPECT_EQ(VirtualSlotOf(&TypeParam::DBWrite), 6u);
+    EXPECT_EQ(VirtualSlotOf(&TypeParam::NewUid), 7u);
+    EXPECT_EQ(VirtualSlotOf(&TypeParam::Size), 8u);
+    EXPECT_EQ(VirtualSlotOf(&TypeParam::DeepCopy), 9u);
+    using Wrapper = mdl_ExtensionWrapper<TypeParam>;
+    EXPECT_EQ(VirtualSlotOf(&Wrapper::Copy), 2u);
+    EXPECT_EQ(VirtualSlotOf(&Wrapper::GetValue), 3u);
+    EXPECT_EQ(VirtualSlotOf(&Wrapper::ConstGetValue), 4u);
+    EXPECT_EQ(VirtualSlotOf(&Wrapper::DynTypeId), 5u);
+    EXPECT_EQ(VirtualSlotOf(&Wrapper::DBWrite), 6u);
+    EXPECT_EQ(VirtualSlotOf(&Wrapper::NewUid), 7u);
+}
+
 TYPED_TEST(StoredRepository, IsDescribedByItsMetadata)
 {
     cls_MetadataRegistrar& registrar = *omi_Singleton<cls_MetadataRegistrar>::Instance();
@@ -394,15 +528,18 @@ TYPED_TEST(StoredRepository, IsDescribedByItsMetadata)
     const bool isList = std::is_same_v<TypeParam, tst_Ordered>;
     const bool isNumbered = std::is_same_v<TypeParam, tst_Numbered>;
     EXPECT_EQ(metadata->Attributes()[0].field.Name(), isList ? "list" : "map");
+    EXPECT_EQ(metadata->Attributes()[0].type, 15);
     EXPECT_EQ(metadata->Attributes()[0].typeId, isList ? 0x230001u : 0x230002u);
     EXPECT_EQ(metadata->Attributes()[0].collectionType, isList ? 1 : isNumbered ? 3 : 2);
 
     const cls_ClassMetadata* wrapper = registrar.Find(mdl_ExtensionWrapper<TypeParam>::TypeId());
     ASSERT_NE(wrapper, nullptr);
     EXPECT_EQ(wrapper->Version(), 401);
+    EXPECT_EQ(wrapper->BaseClassId(), 0xA000Du);
     ASSERT_EQ(wrapper->Attributes().size(), 1u);
     EXPECT_EQ(wrapper->Attributes()[0].field.Index(), -1);
     EXPECT_EQ(wrapper->Attributes()[0].field.Name(), "extension");
+    EXPECT_EQ(wrapper->Attributes()[0].type, 15);
     EXPECT_EQ(wrapper->Attributes()[0].typeId, 0x230002u);
     EXPECT_EQ(wrapper->Attributes()[0].collectionType, 2);
 }
