@@ -62,7 +62,9 @@ class OVR_EXPORT ddr_ShortcutStep : public ddr_ShortcutImpl<C>
 public:
     ~ddr_ShortcutStep() override = default;
 
-    cow_String Path() const override { return PathAs(KeyForm::Plain); }
+    cow_String Path() const override { return WithStep(parent.Path(), KeyForm::Plain); }
+
+    cow_String PythonPath() const override { return WithStep(parent.PythonPath(), KeyForm::Python); }
 
     ddr_ShortcutImpl<C>* Copy() const override { return new Self(static_cast<const Self&>(*this)); }
 
@@ -124,12 +126,6 @@ protected:
     ddr_ShortcutStep(const ddr_ShortcutStep&) = default;
     ddr_ShortcutStep& operator=(const ddr_ShortcutStep&) = default;
 
-    cow_String PathAs(KeyForm form) const override
-    {
-        cow_String path = form == KeyForm::Plain ? parent.Path() : parent.PythonPath();
-        return path.append(static_cast<const Self&>(*this).StepText(form));
-    }
-
     /// The parent object, which must be there.
     P& ParentObject(ddr_DdbContainer& container) const
     {
@@ -163,6 +159,11 @@ protected:
     static cls_FieldHandle ParentField() { return cls_FieldHandle(-1, "parent"); }
 
 private:
+    cow_String WithStep(cow_String path, KeyForm form) const
+    {
+        return path.append(static_cast<const Self&>(*this).StepText(form));
+    }
+
     Key key;
     ddr_Shortcut<P> parent;
     cls_Uid uid;

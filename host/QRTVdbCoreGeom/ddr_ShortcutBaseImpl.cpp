@@ -18,7 +18,7 @@ ddr_ShortcutBaseImpl::~ddr_ShortcutBaseImpl() = default;
 
 cow_String ddr_ShortcutBaseImpl::PythonPath() const
 {
-    return PathAs(KeyForm::Python);
+    return Path();
 }
 
 cow_String ddr_ShortcutBaseImpl::KeyText(const cow_String& key, KeyForm form)

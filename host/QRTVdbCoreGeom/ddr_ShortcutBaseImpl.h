@@ -15,7 +15,7 @@ public:
     /// The whole way. Keys stand in single quotes as they are, with nothing escaped.
     virtual cow_String Path() const = 0;
     /// The way as Python source text: a key with quotes, backslashes or control characters stands in double
-    /// quotes and has them escaped.
+    /// quotes and has them escaped. Path() itself for a step that has no keys.
     virtual cow_String PythonPath() const;
     /// Whether the way begins here.
     virtual bool IsTop() const = 0;
@@ -35,8 +35,6 @@ protected:
     ddr_ShortcutBaseImpl() = default;
     ddr_ShortcutBaseImpl(const ddr_ShortcutBaseImpl&) = default;
     ddr_ShortcutBaseImpl& operator=(const ddr_ShortcutBaseImpl&) = default;
-
-    virtual cow_String PathAs(KeyForm form) const = 0;
 
     /// "['key']" in that form.
     static cow_String KeyText(const cow_String& key, KeyForm form);

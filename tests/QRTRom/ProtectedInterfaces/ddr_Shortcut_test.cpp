@@ -1,13 +1,47 @@
 #include "ddr_TestSteps.h"
 
 #include "RowRecorder.h"
+#include "VirtualSlot.h"
 #include "nex_Exceptions.h"
 #include "omu_ChangeHistory.h"
+#include "ovr_Export.h"
 #include "thr_ThreadSingleton.h"
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <langinfo.h>
 #include <memory>
 #include <string>
+
+namespace
+{
+
+/// While it lives, the locale in force has another encoding, whatever locales the machine has.
+class Encoding
+{
+public:
+    explicit Encoding(std::string name) : name(std::move(name)) { current = this; }
+    Encoding(const Encoding&) = delete;
+    Encoding& operator=(const Encoding&) = delete;
+    ~Encoding() { current = nullptr; }
+
+    static char* Name() { return current == nullptr ? nullptr : current->name.data(); }
+
+private:
+    static inline Encoding* current = nullptr;
+    std::string name;
+};
+
+} // namespace
+
+/// Goes before that of the C library, which is asked when no test has an encoding of its own.
+extern "C" OVR_EXPORT char* nl_langinfo(nl_item item) noexcept
+{
+    if (item == CODESET && Encoding::Name() != nullptr)
+        return Encoding::Name();
+    static const auto next = reinterpret_cast<char* (*)(nl_item)>(dlsym(RTLD_NEXT, "nl_langinfo"));
+    return next(item);
+}
 
 namespace
 {
@@ -124,6 +158,26 @@ TEST_F(Shortcut, HandsTheNameOfTheDataBaseThrough)
     EXPECT_EQ(ToAmplitude("A").DdbName(0), "");
 }
 
+TEST_F(Shortcut, ConvertsTheNameOfTheDataBaseOnceIfAsked)
+{
+    const Encoding latin("ISO-8859-1");
+    const ddr_Shortcut<ddr_Model> model("Brücke");
+    const kamC_AmplitudeContainerShortcut amplitudes = ToAmplitudes("Brücke");
+    const kamC_AmplitudeShortcut amplitude(new kamC_AmplitudeInAmplitudeContainerShortcut("A", amplitudes));
+    const kamC_BaselineCorrectionShortcut correction(new kamC_BaselineCorrectionInTabularShortcut(amplitude));
+    const auto check = [](const auto& shortcut)
+    {
+        EXPECT_EQ(shortcut.DdbName(0), "Brücke");
+        EXPECT_EQ(shortcut.DdbName(1), "Br\xFC"
+                                       "cke");
+    };
+    check(model);
+    check(amplitudes);
+    check(amplitude);
+    check(correction);
+    EXPECT_EQ(amplitude.Path(), "model.amplitudes['A']") << "nothing of the name is in the path";
+}
+
 TEST_F(Shortcut, IsEqualByPath)
 {
     const kamC_AmplitudeShortcut one = ToAmplitude("A");
@@ -231,6 +285,38 @@ TEST_F(Shortcut, RefusesAnotherClass)
               text("kamC_Tabular (0x2440008)", "kamC_EquallySpaced (0x2440004)"));
 }
 
+/// Puts another container, or none, into the slot of the amplitudes of new models, for as long as it lives.
+class OtherAmplitudes
+{
+public:
+    OtherAmplitudes() { ddr_Model::UnRegisterAmplitudeContainer(); }
+    explicit OtherAmplitudes(const mdl_Extension& other) { ddr_Model::RegisterAmplitudeContainer(other); }
+    OtherAmplitudes(const OtherAmplitudes&) = delete;
+    OtherAmplitudes& operator=(const OtherAmplitudes&) = delete;
+    ~OtherAmplitudes() { ddr_Model::RegisterAmplitudeContainer(kamC_ACWrapper()); }
+};
+
+TEST_F(Shortcut, RefusesAModelWithAnotherRepositoryOrNone)
+{
+    const auto errors = [](ddr_DdbContainer of)
+    {
+        const std::string error = Error([&] { ToAmplitudes().Get(of); });
+        EXPECT_EQ(Error([&] { ToAmplitudes().ConstGet(of); }), error);
+        return error;
+    };
+    {
+        const OtherAmplitudes other{tst_Numbered()};
+        EXPECT_EQ(errors(ddr_DdbContainer()),
+                  "Expected an object of class kamC_AmplitudeContainer (0x244000C), found one of class "
+                  "tst_Numbered (0x3E70001). @ QRTVdb/QRTVdbKamC.m/src/kamC_AmplitudeContainerShortcut");
+    }
+    {
+        const OtherAmplitudes none;
+        EXPECT_EQ(errors(ddr_DdbContainer()), "unknown amplitudes");
+    }
+    EXPECT_EQ(errors(ddr_DdbContainer()), "");
+}
+
 TEST_F(Shortcut, FindsAnObjectByNumber)
 {
     tst_Numbered& numbered = ddr_MemberStepOf<ddr_Model, tst_Numbered, 1>::Repository();
@@ -249,6 +335,43 @@ TEST_F(Shortcut, AnswersTheHostsQuestions)
     EXPECT_FALSE(step.IsTop());
     EXPECT_TRUE(step.IsStored());
     EXPECT_FALSE(step.IsReadOnly());
+}
+
+TEST_F(Shortcut, HasItsVirtualOperationsInOrder)
+{
+    // Two slots of the destructor come first.
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeShortcut::IsPresent), 2u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeShortcut::Name), 3u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeShortcut::Path), 4u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeShortcut::PythonPath), 5u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeIMPLSC::Name), 2u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeIMPLSC::Path), 3u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeIMPLSC::PythonPath), 4u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeIMPLSC::IsTop), 5u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeIMPLSC::IsStored), 6u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeIMPLSC::IsReadOnly), 7u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeIMPLSC::Copy), 8u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeIMPLSC::DdbName), 9u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeIMPLSC::ConstGet), 10u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeIMPLSC::Get), 11u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeIMPLSC::DBWrite), 12u);
+    EXPECT_EQ(VirtualSlotOf(&kamC_AmplitudeIMPLSC::DynTypeId), 13u);
+}
+
+/// A step that leaves its path as Python to the base.
+class PlainStep : public ddr_ShortcutBaseImpl
+{
+public:
+    cow_String Name() const override { return "step"; }
+    cow_String Path() const override { return "model.step"; }
+    bool IsTop() const override { return false; }
+    bool IsStored() const override { return false; }
+    bool IsReadOnly() const override { return false; }
+};
+
+TEST_F(Shortcut, AStepWithoutKeysHasOnePath)
+{
+    EXPECT_EQ(PlainStep().PythonPath(), "model.step");
 }
 
 /// The row of a holder, and those of the steps under it, must be as described.
