@@ -34,6 +34,39 @@ const typename cow_Btree<K, V>::Handle* NodeOf(const cow_Btree<K, V>& map, const
 class BtreeTest : public MapTest
 {};
 
+/// The value of type `T` that lies `offset` bytes within the object.
+template <class T, class Object>
+T FieldAt(const Object& object, std::size_t offset)
+{
+    T field;
+    std::memcpy(&field, reinterpret_cast<const char*>(&object) + offset, sizeof field);
+    return field;
+}
+
+TEST_F(BtreeTest, LaysRootCountAndNullValue)
+{
+    static_assert(sizeof(Map) == 16);
+    Map map;
+    Apply(map, {2, 1, 3});
+    map.GetNullValue() = 77;
+    EXPECT_EQ(FieldAt<const void*>(map, 0), map.Root());
+    EXPECT_EQ(FieldAt<int>(map, 8), 3);
+    EXPECT_EQ(FieldAt<int>(map, 12), 77);
+}
+
+TEST_F(BtreeTest, LaysValueKeyChildrenAndHeightOfANode)
+{
+    static_assert(sizeof(cow_Btree<int, double>::Node) == 40);
+    cow_Btree<int, double> map;
+    Apply(map, {2, 1, 3});
+    const auto& node = **map.Root();
+    EXPECT_EQ(FieldAt<double>(node, 0), 2.0);
+    EXPECT_EQ(FieldAt<int>(node, 8), 2);
+    EXPECT_EQ(FieldAt<const void*>(node, 16), node.Left());
+    EXPECT_EQ(FieldAt<const void*>(node, 24), node.Right());
+    EXPECT_EQ(FieldAt<int>(node, 32), 1);
+}
+
 TEST_F(BtreeTest, EmptyMapHasNothing)
 {
     Map map;
