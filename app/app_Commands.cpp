@@ -8,6 +8,7 @@
 #include "app_File.h"
 #include "app_Json.h"
 #include "app_Load.h"
+#include "app_Picture.h"
 #include "app_Show.h"
 #include "app_Store.h"
 #include "app_Table.h"
@@ -20,6 +21,7 @@
 
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <sstream>
 
 #include <fmt/format.h>
@@ -212,10 +214,17 @@ public:
     void AddTo(CLI::App& parser) override
     {
         parser.footer("  vdbattr show model.vdb\n"
-                      "  vdbattr show model.vdb \"amplitudes['ramp']\"");
+                      "  vdbattr show model.vdb \"amplitudes['ramp']\"\n"
+                      "  vdbattr show model.vdb \"profiles['girder']\" --svg girder.svg\n"
+                      "A picture is drawn of an amplitude that stands for a curve, of a beam profile with a\n"
+                      "shape, and of a material with a table of hardening or test data.");
         parser.add_option("STORE", store, modelHelp)->required();
-        parser.add_option("PATH", path, "Path of one object; without it, all objects are listed");
+        CLI::Option* const pathOption =
+            parser.add_option("PATH", path, "Path of one object; without it, all objects are listed");
         AddJson(parser);
+        parser.add_option("--svg", picture, "Draw the object to this file, as SVG")
+            ->needs(pathOption)
+            ->excludes("--json");
     }
 
     int Run() override
@@ -245,14 +254,24 @@ private:
         const cls_Value& shown = cmd_FindWithin(whole, where);
         if (!cmd_ClassOfValue(shown))
             throw app_Error("show: " + path + ": expected an object; `vdbattr get` prints a value in one");
-        if (json)
+        if (picture)
+            Draw(shown);
+        else if (json)
             PrintValue(shown);
         else
             app_Print(where.steps.size() == 2 ? app_ShowObject(object) : app_ShowPart(path, shown));
     }
 
+    void Draw(const cls_Value& object) const
+    {
+        if (app_IsSameFile(*picture, store))
+            throw app_Error("show: " + *picture + ": is the model itself, expected another file to draw to");
+        app_WriteFile(*picture, app_PictureOf(path, object));
+    }
+
     std::string store;
     std::string path;
+    std::optional<std::string> picture;
 };
 
 class GetCommand : public Command
@@ -724,7 +743,7 @@ void app_AddCommands(CLI::App& parser, int& exitCode)
     Add<NewCommand>(parser, exitCode, "new", "Make an empty stored model, or an object in one");
     Add<ImportCommand>(parser, exitCode, "import", "Make a stored model of a model as JSON");
     Add<ExportCommand>(parser, exitCode, "export", "Print a stored model as JSON");
-    Add<ShowCommand>(parser, exitCode, "show", "List the objects of a model, or show one with its curve");
+    Add<ShowCommand>(parser, exitCode, "show", "List the objects of a model, or show or draw one");
     Add<GetCommand>(parser, exitCode, "get", "Print an attribute");
     Add<SetCommand>(parser, exitCode, "set", "Change attributes of an object");
     Add<DeleteCommand>(parser, exitCode, "del", "Delete an object");

@@ -72,7 +72,7 @@ void app_WriteFile(const std::string& path, const std::string& content)
     const std::string fresh = path + ".new-" + std::to_string(::getpid());
     try
     {
-        WriteAll(fresh, content);
+        Write(File(std::fopen(fresh.c_str(), "wb")), path, content);
         if (std::rename(fresh.c_str(), path.c_str()) != 0)
             Raise(path, "written");
     }
@@ -117,4 +117,10 @@ bool app_Exists(const std::string& path)
 {
     std::error_code ignored;
     return std::filesystem::exists(std::filesystem::symlink_status(path, ignored));
+}
+
+bool app_IsSameFile(const std::string& a, const std::string& b)
+{
+    std::error_code ignored;
+    return std::filesystem::equivalent(a, b, ignored);
 }

@@ -23,3 +23,6 @@ void app_Warn(const std::string& text, const cmd_Place* place = nullptr);
 
 /// Whether there is something at this path.
 bool app_Exists(const std::string& path);
+
+/// Whether two paths lead to one file that is there.
+bool app_IsSameFile(const std::string& a, const std::string& b);

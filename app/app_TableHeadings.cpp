@@ -20,6 +20,7 @@ struct Headings
 
 constexpr std::string_view hardeningCurve = "yield stress|plastic strain";
 constexpr std::string_view stressStrain = "stress|strain";
+constexpr std::string_view stressLateralStrain = "stress|strain|lateral strain";
 
 constexpr Headings known[] = {
     {"kmaC_Elastic", "table", "type", "ISOTROPIC", "Young's modulus|Poisson's ratio"},
@@ -33,6 +34,7 @@ constexpr Headings known[] = {
     {"kmaC_Plastic", "table", "hardening", "KINEMATIC", hardeningCurve},
     {"kmaC_Plastic", "table", "hardening", "MULTILINEAR_KINEMATIC", hardeningCurve},
     {"kmaC_Plastic", "table", "dataType", "HALF_CYCLE", hardeningCurve},
+    {"kmaC_Plastic", "table", "dataType", "STABILIZED", hardeningCurve},
     {"kmaC_Plastic", "table", "hardening", "JOHNSON_COOK",
      "A|B|n|m|melting temperature|transition temperature"},
     {"kmaC_RateDependent", "table", "type", "POWER_LAW", "multiplier|exponent"},
@@ -49,9 +51,11 @@ constexpr Headings known[] = {
     {"kmaC_Hyperelastic", "table", "type", "VAN_DER_WAALS", "mu|lambda|a|beta|D"},
     {"kmaC_Hyperelastic", "table", "type", "YEOH", "C10|C20|C30|D1|D2|D3"},
     {"kmaC_UniaxialTestData", "table", "", "", stressStrain},
-    {"kmaC_UniaxialTestData", "table", "lateralNominalStrain", "true", "stress|strain|lateral strain"},
+    {"kmaC_UniaxialTestData", "table", "lateralNominalStrain", "true", stressLateralStrain},
     {"kmaC_BiaxialTestData", "table", "", "", stressStrain},
+    {"kmaC_BiaxialTestData", "table", "lateralNominalStrain", "true", stressLateralStrain},
     {"kmaC_PlanarTestData", "table", "", "", stressStrain},
+    {"kmaC_PlanarTestData", "table", "lateralNominalStrain", "true", stressLateralStrain},
     {"kmaC_VolumetricTestData", "table", "", "", "pressure|volume ratio"},
     {"kmaC_SimpleShearTestData", "table", "", "", "shear stress|shear strain"},
     {"kmaC_Viscoelastic", "table", "time", "PRONY", "g|k|relaxation time"},
@@ -87,10 +91,12 @@ bool Applies(const Headings& row, const cls_Value& owner)
                               : value && value->AsText() && *value->AsText() == row.text;
 }
 
-/// What widens a table: the columns of rates, of temperature and of field variables.
+/// What widens a table: the columns of strain ranges, of rates, of temperature and of field variables.
 std::vector<std::string> Independents(const cls_Value& owner)
 {
     std::vector<std::string> headings;
+    if (IsTrue(owner, "strainRangeDependency"))
+        headings.emplace_back("strain range");
     if (IsTrue(owner, "rate"))
         headings.emplace_back("rate");
     if (IsTrue(owner, "temperatureDependency"))
