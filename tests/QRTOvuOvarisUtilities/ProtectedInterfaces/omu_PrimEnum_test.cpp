@@ -1,3 +1,5 @@
+#include "RowRecorder.h"
+#include "VirtualSlot.h"
 #include "cls_KindOf.h"
 #include "kamC_CorrelationComponent.h"
 #include "kamC_Tabular.h"
@@ -6,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include <type_traits>
+#include <memory>
 
 OMU_NAMESPACE_ENUM(TestSignEnm, MINUS = -1, ZERO, PLUS, OTHER_PLUS = 1, FAR = 2147483647)
 
@@ -154,6 +156,41 @@ TEST(omu_PrimEnum, CopiesItsFields)
     EXPECT_EQ(Approach::USER, approach.Value());
     EXPECT_FALSE(approach == *copy);
     delete copy;
+}
+
+TEST(omu_PrimEnum, CopiesItsIdentities)
+{
+    const ApproachPrim approach(Approach::USER);
+    const std::unique_ptr<ApproachPrim> copy(approach.Copy());
+    const std::shared_ptr<RecordedRow> row = RecordRow(approach);
+    const std::shared_ptr<RecordedRow> copiedRow = RecordRow(*copy);
+    EXPECT_EQ(row->uid, copiedRow->uid);
+    EXPECT_EQ(row->base->uid, copiedRow->base->uid) << "that of the primitive";
+    EXPECT_NE(row->uid, row->base->uid);
+    EXPECT_EQ(omu_PrimKindEnm::Enum, copy->Kind());
+}
+
+TEST(omu_PrimEnum, IsReadFromARecord)
+{
+    const std::shared_ptr<RecordedRow> row = RecordRow(ApproachPrim(Approach::USER));
+    EXPECT_EQ(Approach::USER, ReadRow<ApproachPrim>(row).Value());
+    EXPECT_EQ("omu_PrimEnum(const cls_ReadVisitor&) - str not allowed: USER  Permissible: STEP, TOTAL",
+              Refusal([&row] { ReadRow<SpanPrim>(row); }));
+}
+
+TEST(omu_PrimEnum, HasItsVirtualOperationsInOrder)
+{
+    // Two slots of the destructor come first.
+    EXPECT_EQ(2u, VirtualSlotOf(&SpanPrim::TypeString));
+    EXPECT_EQ(3u, VirtualSlotOf(&SpanPrim::AsString));
+    EXPECT_EQ(4u, VirtualSlotOf(&SpanPrim::AsRepr));
+    EXPECT_EQ(5u, VirtualSlotOf<bool (SpanPrim::*)(const omu_Primitive&) const>(&SpanPrim::operator==));
+    EXPECT_EQ(6u, VirtualSlotOf(&SpanPrim::Accept));
+    EXPECT_EQ(7u, VirtualSlotOf(&SpanPrim::Copy));
+    EXPECT_EQ(8u, VirtualSlotOf(&SpanPrim::DynTypeId));
+    EXPECT_EQ(9u, VirtualSlotOf(&SpanPrim::DBWrite));
+    EXPECT_EQ(10u, VirtualSlotOf<bool (SpanPrim::*)(const char*)>(&SpanPrim::SetValue));
+    EXPECT_EQ(11u, VirtualSlotOf(&SpanPrim::PermissibleValues));
 }
 
 // The texts of every enumeration of the family, as they stand in stores: a text here must never change.
