@@ -49,7 +49,8 @@ void CheckMessages(void (*assertFunction)(bool, Code), const char* file,
     const int count = static_cast<int>(texts.size());
     for (int code = 0; code < count; ++code)
         EXPECT_EQ(texts[static_cast<std::size_t>(code)], message(code)) << code;
-    for (const int code : {-1, count, 99, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()})
+    for (const int code :
+         {-1, count, count + 1, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()})
     {
         EXPECT_EQ("", message(code)) << code;
         EXPECT_NO_THROW(assertFunction(true, static_cast<Code>(code))) << code;

@@ -1,6 +1,7 @@
 #include "QRTVdbKbeC.h"
 
 #include "kbeC_AssertContent.h"
+#include "kbeC_assert.h"
 
 namespace
 {
@@ -16,7 +17,9 @@ void QRTVdbKbeC_initialize(int& tally)
     if (!cls_StepUp(moduleCount, tally))
         return;
     typ_ArchCompTable::InsertEntry(moduleNumber, kbeC_ArchEntry());
-    omi_Singleton<cls_Catalogue>::Instance()->AddMessages(moduleNumber, kbeC_ContentMessages);
+    cls_Catalogue& catalogue = *omi_Singleton<cls_Catalogue>::Instance();
+    catalogue.AddMessages(moduleNumber, kbeC_Messages);
+    catalogue.AddMessages(moduleNumber, kbeC_ContentMessages);
 }
 
 void QRTVdbKbeC_finalize(int& tally)

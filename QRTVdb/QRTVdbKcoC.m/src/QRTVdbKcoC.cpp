@@ -1,6 +1,6 @@
 #include "QRTVdbKcoC.h"
 
-#include "cls_Module.h"
+#include "kcoC_assert.h"
 
 namespace
 {
@@ -13,8 +13,10 @@ int moduleCount = 0;
 
 void QRTVdbKcoC_initialize(int& tally)
 {
-    if (cls_StepUp(moduleCount, tally))
-        typ_ArchCompTable::InsertEntry(moduleNumber, kcoC_ArchEntry());
+    if (!cls_StepUp(moduleCount, tally))
+        return;
+    typ_ArchCompTable::InsertEntry(moduleNumber, kcoC_ArchEntry());
+    omi_Singleton<cls_Catalogue>::Instance()->AddMessages(moduleNumber, kcoC_Messages);
 }
 
 void QRTVdbKcoC_finalize(int& tally)

@@ -1,6 +1,6 @@
 #include "QRTVdbKefC.h"
 
-#include "cls_Module.h"
+#include "kefC_assert.h"
 
 namespace
 {
@@ -13,8 +13,10 @@ int moduleCount = 0;
 
 void QRTVdbKefC_initialize(int& tally)
 {
-    if (cls_StepUp(moduleCount, tally))
-        typ_ArchCompTable::InsertEntry(moduleNumber, kefC_ArchEntry());
+    if (!cls_StepUp(moduleCount, tally))
+        return;
+    typ_ArchCompTable::InsertEntry(moduleNumber, kefC_ArchEntry());
+    omi_Singleton<cls_Catalogue>::Instance()->AddMessages(moduleNumber, kefC_Messages);
 }
 
 void QRTVdbKefC_finalize(int& tally)

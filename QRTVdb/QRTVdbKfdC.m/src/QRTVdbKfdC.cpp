@@ -1,6 +1,6 @@
 #include "QRTVdbKfdC.h"
 
-#include "cls_Module.h"
+#include "kfdC_assert.h"
 
 namespace
 {
@@ -13,8 +13,10 @@ int moduleCount = 0;
 
 void QRTVdbKfdC_initialize(int& tally)
 {
-    if (cls_StepUp(moduleCount, tally))
-        typ_ArchCompTable::InsertEntry(moduleNumber, kfdC_ArchEntry());
+    if (!cls_StepUp(moduleCount, tally))
+        return;
+    typ_ArchCompTable::InsertEntry(moduleNumber, kfdC_ArchEntry());
+    omi_Singleton<cls_Catalogue>::Instance()->AddMessages(moduleNumber, kfdC_Messages);
 }
 
 void QRTVdbKfdC_finalize(int& tally)

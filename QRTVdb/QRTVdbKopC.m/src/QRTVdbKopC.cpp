@@ -1,6 +1,6 @@
 #include "QRTVdbKopC.h"
 
-#include "cls_Module.h"
+#include "kopC_assert.h"
 
 namespace
 {
@@ -13,8 +13,10 @@ int moduleCount = 0;
 
 void QRTVdbKopC_initialize(int& tally)
 {
-    if (cls_StepUp(moduleCount, tally))
-        typ_ArchCompTable::InsertEntry(moduleNumber, kopC_ArchEntry());
+    if (!cls_StepUp(moduleCount, tally))
+        return;
+    typ_ArchCompTable::InsertEntry(moduleNumber, kopC_ArchEntry());
+    omi_Singleton<cls_Catalogue>::Instance()->AddMessages(moduleNumber, kopC_Messages);
 }
 
 void QRTVdbKopC_finalize(int& tally)

@@ -1,6 +1,6 @@
 #include "QRTVdbKtbC.h"
 
-#include "cls_Module.h"
+#include "ktbC_assert.h"
 
 namespace
 {
@@ -13,8 +13,10 @@ int moduleCount = 0;
 
 void QRTVdbKtbC_initialize(int& tally)
 {
-    if (cls_StepUp(moduleCount, tally))
-        typ_ArchCompTable::InsertEntry(moduleNumber, ktbC_ArchEntry());
+    if (!cls_StepUp(moduleCount, tally))
+        return;
+    typ_ArchCompTable::InsertEntry(moduleNumber, ktbC_ArchEntry());
+    omi_Singleton<cls_Catalogue>::Instance()->AddMessages(moduleNumber, ktbC_Messages);
 }
 
 void QRTVdbKtbC_finalize(int& tally)
