@@ -22,8 +22,7 @@ namespace
     cow_String text("The class ");
     text.append(name);
     text.append(deed);
-    nex_CmdException<cow_String, 9>(text, 0).Throw(__FILE__, __LINE__);
-    std::abort();
+    nex_CmdException<atr_String, 2>(atr_String(text), 0).Throw(__FILE__, __LINE__);
 }
 
 } // namespace
