@@ -138,7 +138,7 @@ void DrawSeries(app_Svg& svg, const app_ChartFrame& frame, const app_Chart& char
     constexpr double heldPenWidth = 1.1;
     const app_Series& series = chart.series[number];
     app_Pen pen = PenOf(number);
-    if (series.x.size() > manyPoints)
+    if (chart.hasPoints && series.x.size() > manyPoints)
         pen.width = 1.1;
     std::vector<app_Point> points;
     for (std::size_t i = 0; i < series.x.size(); ++i)

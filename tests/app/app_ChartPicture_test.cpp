@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
 
 #include <cmath>
 #include <numbers>
@@ -105,6 +106,44 @@ TEST(ChartPicture, KeepsItsTextsApartWhateverTheNumbers)
     {
         SCOPED_TRACE(low);
         Drawn({"time", "amplitude", {{"", {low, high}, {low, high}}}, true});
+    }
+}
+
+RC_GTEST_PROP(ChartPicture, isWholeWhateverTheNumbers, ())
+{
+    const auto number = []
+    {
+        return *rc::gen::inRange(-99, 100) * std::pow(10.0, *rc::gen::inRange(-320, 298)) *
+               *rc::gen::element(1.0, 1.0, 0.0);
+    };
+    app_Chart chart{"x",
+                    "y",
+                    {},
+                    *rc::gen::arbitrary<bool>(),
+                    *rc::gen::arbitrary<bool>(),
+                    *rc::gen::arbitrary<bool>(),
+                    *rc::gen::arbitrary<bool>()};
+    const int count = *rc::gen::inRange(1, 4);
+    for (int i = 0; i < count; ++i)
+    {
+        app_Series series{"curve", {}, {}};
+        for (int k = *rc::gen::inRange(1, 5); k > 0; --k)
+        {
+            series.x.push_back(number());
+            series.y.push_back(number());
+        }
+        chart.series.push_back(std::move(series));
+    }
+    Drawn(chart);
+    const app_ChartFrame frame(chart);
+    for (const app_Series& series : chart.series)
+    {
+        for (std::size_t i = 0; i < series.x.size(); ++i)
+        {
+            const app_Point at = frame.At(series.x[i], series.y[i]);
+            RC_ASSERT(at.x >= -0.01 && at.x <= app_ChartFrame::Width + 0.01);
+            RC_ASSERT(at.y >= -0.01 && at.y <= app_ChartFrame::Height + 0.01);
+        }
     }
 }
 

@@ -2,11 +2,14 @@
 
 #include "Svg.h"
 #include "app_DimensionLines.h"
+#include "app_Error.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
 
 #include <cmath>
+#include <limits>
 
 namespace
 {
@@ -130,6 +133,45 @@ std::vector<XmlElement> DrawnLines(const std::vector<app_DimensionLine>& lines)
     std::vector<XmlElement> elements = ExpectPicture(svg.Document("lines"));
     ExpectTextsApart(elements);
     return elements;
+}
+
+RC_GTEST_PROP(SectionPicture, isWholeOrRefusedWhateverTheNumbers, ())
+{
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double infinity = std::numeric_limits<double>::infinity();
+    const std::vector<std::vector<std::string>> shapes = {
+        {"Box", "a", "b", "t1", "t2", "t3", "t4"},
+        {"Cbeam", "l", "h", "b1", "b2", "t1", "t2", "t3", "o"},
+        {"Circular", "r"},
+        {"Hat", "l", "h", "b", "b1", "b2", "t1", "t2", "t3"},
+        {"Hexagonal", "r", "t"},
+        {"Ibeam", "l", "h", "b1", "b2", "t1", "t2", "t3"},
+        {"Lbeam", "a", "b", "t1", "t2"},
+        {"Pipe", "r", "t"},
+        {"Rectangular", "a", "b"},
+        {"Tbeam", "b", "h", "l", "tf", "tw"},
+        {"Trapezoidal", "a", "b", "c", "d"}};
+    const std::vector<std::string>& shape = *rc::gen::elementOf(shapes);
+    // Mostly sizes that fit each other, for thicknesses smaller ones; sometimes anything.
+    cls_Value::Object object{{"class", "kbpC_" + shape.front() + "Profile"}};
+    for (std::size_t i = 1; i < shape.size(); ++i)
+    {
+        const double most = shape[i][0] == 't' ? 3.0 : 20.0;
+        const double fitting = *rc::gen::inRange(1, 100) / 100.0 * most;
+        const double strange =
+            *rc::gen::element(0.0, -1.0, 1e-3, 1e-140, 1e140, 1e300, nan, infinity, -infinity);
+        object.emplace_back(shape[i], cls_ValueOfDouble(*rc::gen::inRange(0, 12) == 0 ? strange : fitting));
+    }
+    try
+    {
+        Drawn(object);
+    }
+    catch (const app_Error& error)
+    {
+        RC_TAG(std::string("refused"));
+        RC_ASSERT(std::string(error.what()).rfind("its ", 0) == 0 ||
+                  std::string(error.what()).rfind("neither its ", 0) == 0);
+    }
 }
 
 struct Side
