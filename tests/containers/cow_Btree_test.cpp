@@ -206,6 +206,20 @@ TEST_F(BtreeTest, CopySharesTheTree)
     EXPECT_EQ(map.Root()->ShareCount(), 1);
 }
 
+TEST_F(BtreeTest, AnEntryTakesANodeAHandleAndACountAndACopyOfTheMapNothing)
+{
+    const std::size_t blocks = mem_BlocksInUse();
+    Map map;
+    EXPECT_EQ(mem_BlocksInUse(), blocks);
+    for (int key = 1; key <= 20; ++key)
+    {
+        map.InsertUnlessMember(key, key);
+        EXPECT_EQ(mem_BlocksInUse(), blocks + 3 * static_cast<std::size_t>(key));
+    }
+    const Map copy(map);
+    EXPECT_EQ(mem_BlocksInUse(), blocks + 60);
+}
+
 TEST_F(BtreeTest, InsertIntoACopyCopiesThePathOnly)
 {
     Map map;

@@ -247,6 +247,19 @@ struct Noted
     static inline std::vector<int> destroyed;
 };
 
+/// Whether lists of the type know members of equal value.
+template <class T>
+concept KnowsMembers = requires(cow_List<T> list, const T& value)
+{
+    list.IsEqual(list);
+    list.FindMember(value);
+    list.IsMember(value);
+    list.AppendUnlessMember(value);
+    list.RemoveMember(value);
+    list.Difference(list);
+};
+static_assert(KnowsMembers<int> && KnowsMembers<Tracked> && !KnowsMembers<Noted>);
+
 /// The numbers from `first` down to `last`, behind `before`.
 std::vector<int> Down(std::vector<int> before, int first, int last)
 {

@@ -475,6 +475,19 @@ TEST_F(Repositories, WriteTheirBaseThenTheirCollection)
     EXPECT_EQ(BegunRows(kamC_ACWrapper(), true).AsText(), "0x2440017");
 }
 
+TEST_F(Repositories, CountAsChangedAfterReadingIfTheReaderSaysSo)
+{
+    using testing::Return;
+    testing::NiceMock<ReadMementoMock> memento;
+    testing::NiceMock<ReadMapMock<cls_ReadMapString2Obj, cow_String>> noRows;
+    ON_CALL(memento, OpenBase).WillByDefault(Return(&memento));
+    ON_CALL(memento, OpenField).WillByDefault(Return(&memento));
+    ON_CALL(memento, OpenMapString2Obj).WillByDefault(Return(&noRows));
+    EXPECT_FALSE(kamC_AmplitudeContainer(cls_ReadVisitor(&memento)).IsChanged());
+    EXPECT_FALSE(kamC_AmplitudeContainer(cls_ReadVisitor(&memento), false).IsChanged());
+    EXPECT_TRUE(kamC_AmplitudeContainer(cls_ReadVisitor(&memento), true).IsChanged());
+}
+
 TYPED_TEST(StoredRepository, TakesANewIdentityInEveryLayer)
 {
     using Wrapper = mdl_ExtensionWrapper<TypeParam>;

@@ -2,6 +2,7 @@
 
 #include "RowRecorder.h"
 #include "VirtualSlot.h"
+#include "ddr_PathParser.h"
 #include "nex_Exceptions.h"
 #include "omu_ChangeHistory.h"
 #include "ovr_Export.h"
@@ -415,13 +416,20 @@ TEST_F(Shortcut, WritesARowThatIsWrittenOnlyOnce)
     EXPECT_TRUE(row->fields.empty());
 }
 
+struct AttributeRow
+{
+    const char* name;
+    int type;
+    unsigned typeId;
+};
+
 struct ClassRow
 {
     unsigned id;
     const char* name;
     unsigned baseId;
     int quantum;
-    std::vector<const char*> attributes;
+    std::vector<AttributeRow> attributes;
 };
 
 TEST_F(Shortcut, IsDescribedByItsMetadata)
@@ -430,18 +438,38 @@ TEST_F(Shortcut, IsDescribedByItsMetadata)
     const int small = quanta.ExtentQuantumConstSmall();
     const int medium = quanta.ExtentQuantumConstMedium();
     const ClassRow rows[] = {
-        {0x244000D, "kamC_AmplitudeShortcut", 1, small, {"impl"}},
-        {0x244000E, "kamC_AmplitudeInAmplitudeContainerShortcut", 0x244000F, small, {"name", "parent"}},
+        {0x244000D, "kamC_AmplitudeShortcut", 1, small, {{"impl", 15, 0x244000F}}},
+        {0x244000E,
+         "kamC_AmplitudeInAmplitudeContainerShortcut",
+         0x244000F,
+         small,
+         {{"name", 11, 1}, {"parent", 15, 0x2440010}}},
         {0x244000F, "kamC_AmplitudeIMPLSC", 1, small, {}},
-        {0x2440010, "kamC_AmplitudeContainerShortcut", 1, small, {"impl"}},
+        {0x2440010, "kamC_AmplitudeContainerShortcut", 1, small, {{"impl", 15, 0x2440011}}},
         {0x2440011, "kamC_AmplitudeContainerIMPLSC", 1, small, {}},
-        {0x2440012, "kamC_BaselineCorrectionShortcut", 1, small, {"impl"}},
-        {0x2440013, "kamC_BaselineCorrectionInEquallySpacedShortcut", 0x2440015, medium, {"parent"}},
-        {0x2440014, "kamC_BaselineCorrectionInTabularShortcut", 0x2440015, medium, {"parent"}},
+        {0x2440012, "kamC_BaselineCorrectionShortcut", 1, small, {{"impl", 15, 0x2440015}}},
+        {0x2440013,
+         "kamC_BaselineCorrectionInEquallySpacedShortcut",
+         0x2440015,
+         medium,
+         {{"parent", 15, 0x244000D}}},
+        {0x2440014,
+         "kamC_BaselineCorrectionInTabularShortcut",
+         0x2440015,
+         medium,
+         {{"parent", 15, 0x244000D}}},
         {0x2440015, "kamC_BaselineCorrectionIMPLSC", 1, small, {}},
-        {0x2440016, "kamC_AmplitudeContainerInModelShortcut", 0x2440011, medium, {"parent"}},
-        {0x2440018, "kamC_BaselineCorrectionInAmplitudeShortcut", 0x2440015, medium, {"parent"}},
-        {0x3E70005, "tst_AmplitudeInNumberedShortcut", 0x244000F, medium, {"index", "parent"}},
+        {0x2440016, "kamC_AmplitudeContainerInModelShortcut", 0x2440011, medium, {{"parent", 15, 0xA0004}}},
+        {0x2440018,
+         "kamC_BaselineCorrectionInAmplitudeShortcut",
+         0x2440015,
+         medium,
+         {{"parent", 15, 0x244000D}}},
+        {0x3E70005,
+         "tst_AmplitudeInNumberedShortcut",
+         0x244000F,
+         medium,
+         {{"index", 5, 1}, {"parent", 15, 0x3E70002}}},
     };
     cls_MetadataRegistrar& registrar = *omi_Singleton<cls_MetadataRegistrar>::Instance();
     for (const ClassRow& row : rows)
@@ -459,10 +487,44 @@ TEST_F(Shortcut, IsDescribedByItsMetadata)
         ASSERT_EQ(metadata->Attributes().size(), row.attributes.size()) << row.name;
         for (std::size_t i = 0; i < row.attributes.size(); ++i)
         {
-            EXPECT_EQ(metadata->Attributes()[i].field.Name(), row.attributes[i]) << row.name;
-            EXPECT_EQ(metadata->Attributes()[i].field.Index(), -1) << row.name;
+            const cls_AttributeMetadata& attribute = metadata->Attributes()[i];
+            EXPECT_EQ(attribute.field.Name(), row.attributes[i].name) << row.name;
+            EXPECT_EQ(attribute.field.Index(), -1) << row.name;
+            EXPECT_EQ(attribute.type, row.attributes[i].type) << row.name;
+            EXPECT_EQ(attribute.typeId, row.attributes[i].typeId) << row.name;
+            EXPECT_EQ(attribute.collectionType, 0) << row.name;
         }
     }
+}
+
+/// The word of the repository of objects of this class, which the class itself answers.
+std::string RepositoryWordOf(const cls_Description& root)
+{
+    for (const cls_Word& word : root.Words())
+    {
+        if (std::string(word.name).ends_with("Repository"))
+            return word.word;
+    }
+    return "";
+}
+
+TEST_F(Shortcut, GoesByTheWordThatTheClassHasForItsRepository)
+{
+    int repositories = 0;
+    for (const char* word : ddr_Model::Slots())
+    {
+        const mdl_Repository* repository = container.ConstGetModel()->ConstGet(word);
+        if (!repository)
+            continue;
+        ++repositories;
+        const auto* objects = dynamic_cast<const mdl_NamedObjects*>(repository);
+        ASSERT_NE(objects, nullptr) << word;
+        EXPECT_EQ(RepositoryWordOf(objects->ObjectRoot()), word);
+        const ddr_AnyShortcut shortcut = ddr_ParsePath(word);
+        EXPECT_EQ(shortcut.Name(), word);
+        EXPECT_EQ(shortcut.Class().targetId, repository->DynTypeId()) << word;
+    }
+    EXPECT_GE(repositories, 5);
 }
 
 TEST_F(Shortcut, TheAbstractStepCannotBeBuilt)
