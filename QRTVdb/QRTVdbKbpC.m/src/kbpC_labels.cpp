@@ -14,11 +14,16 @@
 #include "kbpC_TbeamProfile.h"
 #include "kbpC_TrapezoidalProfile.h"
 
+#include <array>
+
 namespace
 {
 
 // Translations find the rectangle by these literals, the misspelled one too.
-constexpr cls_ClassLabel labels[] = {
+constexpr const char* rectangleLabel = "Rectangular\\@PROFILE_RECTANGULAR";
+constexpr const char* rectangleDescription = "Rectangular\\@RECTAGULAR_BEAM_PROFILE";
+
+constexpr auto labels = std::to_array<cls_ClassLabel>({
     {kbpC_GeneralizedProfile::TypeId(), "Generalized"},
     {kbpC_BoxProfile::TypeId(), "Box", "PROFILE_BOX"},
     {kbpC_PipeProfile::TypeId(), "Pipe"},
@@ -28,27 +33,25 @@ constexpr cls_ClassLabel labels[] = {
     {kbpC_ArbitraryProfile::TypeId(), "Arbitrary"},
     {kbpC_CircularProfile::TypeId(), "Circular"},
     {kbpC_HexagonalProfile::TypeId(), "Hexagonal"},
-    {kbpC_RectangularProfile::TypeId(), "Rectangular\\@PROFILE_RECTANGULAR", "Rectangular"},
+    {kbpC_RectangularProfile::TypeId(), rectangleLabel, "Rectangular"},
     {kbpC_TrapezoidalProfile::TypeId(), "Trapezoidal"},
     {kbpC_CbeamProfile::TypeId(), "Channel"},
     {kbpC_HatProfile::TypeId(), "Hat"},
-};
+});
 
-constexpr cls_ClassLabel descriptions[] = {
-    {kbpC_GeneralizedProfile::TypeId(), "Generalized"},
-    {kbpC_BoxProfile::TypeId(), "Box"},
-    {kbpC_PipeProfile::TypeId(), "Pipe"},
-    {kbpC_IbeamProfile::TypeId(), "I"},
-    {kbpC_LbeamProfile::TypeId(), "L"},
-    {kbpC_TbeamProfile::TypeId(), "T"},
-    {kbpC_ArbitraryProfile::TypeId(), "Arbitrary"},
-    {kbpC_CircularProfile::TypeId(), "Circular"},
-    {kbpC_HexagonalProfile::TypeId(), "Hexagonal"},
-    {kbpC_RectangularProfile::TypeId(), "Rectangular\\@RECTAGULAR_BEAM_PROFILE"},
-    {kbpC_TrapezoidalProfile::TypeId(), "Trapezoidal"},
-    {kbpC_CbeamProfile::TypeId(), "Channel"},
-    {kbpC_HatProfile::TypeId(), "Hat"},
-};
+/// The same texts but for the rectangle's; none has another name than its text.
+constexpr auto DescriptionsOf(auto rows)
+{
+    for (cls_ClassLabel& row : rows)
+    {
+        row.name = nullptr;
+        if (row.classId == kbpC_RectangularProfile::TypeId())
+            row.text = rectangleDescription;
+    }
+    return rows;
+}
+
+constexpr auto descriptions = DescriptionsOf(labels);
 
 } // namespace
 
