@@ -361,12 +361,50 @@ app_Section Trapezoidal(const Dimensions& of)
     return section;
 }
 
+double Dot(app_Point a, app_Point b)
+{
+    return a.x * b.x + a.y * b.y;
+}
+
+app_Point Unit(app_Point point)
+{
+    return point * (1.0 / app_Length(point));
+}
+
 /// A wall of a section given by its points, its thickness to both sides of the line between two of them.
 app_Polygon Wall(app_Point from, app_Point to, double thickness)
 {
-    const app_Point along = to - from;
-    const app_Point across = app_Point{-along.y, along.x} * (thickness / 2.0 / app_Length(along));
+    const app_Point along = Unit(to - from);
+    const app_Point across = app_Point{-along.y, along.x} * (thickness / 2.0);
     return {from - across, to - across, to + across, from + across};
+}
+
+/// What lies outside of both walls where they meet in a corner: up to where their outer faces meet, or, at a
+/// sharp corner, cut off; none where they run straight on.
+std::optional<app_Polygon> Corner(app_Point from, const app_WallPoint& at, const app_WallPoint& to)
+{
+    constexpr double straight = 1e-6;
+    constexpr double longest = 2.0;
+    const app_Point in = Unit(at.place - from);
+    const app_Point out = Unit(to.place - at.place);
+    const double turn = in.x * out.y - in.y * out.x;
+    if (std::abs(turn) < straight)
+        return std::nullopt;
+    const double side = turn > 0.0 ? -0.5 : 0.5;
+    const app_Point acrossOut{-out.y, out.x};
+    const app_Point a = at.place + app_Point{-in.y, in.x} * (side * at.thickness);
+    const app_Point b = at.place + acrossOut * (side * to.thickness);
+    const double reach = Dot(a - b, acrossOut) / turn;
+    if (reach < 0.0 || reach > longest * std::max(at.thickness, to.thickness))
+        return app_Polygon{at.place, a, b};
+    return app_Polygon{at.place, a, a + in * reach, b};
+}
+
+/// Whether there is a wall between a point and the one before it.
+bool IsWall(const std::vector<app_WallPoint>& points, std::size_t i)
+{
+    return i > 0 && i < points.size() && points[i].thickness > 0.0 &&
+           !(points[i].place == points[i - 1].place);
 }
 
 std::vector<app_WallPoint> WallPoints(const Dimensions& of)
@@ -396,12 +434,16 @@ app_Section Arbitrary(const Dimensions& of)
 {
     app_Section section;
     section.wallPoints = WallPoints(of);
-    for (std::size_t i = 1; i < section.wallPoints.size(); ++i)
+    const std::vector<app_WallPoint>& points = section.wallPoints;
+    for (std::size_t i = 1; i < points.size(); ++i)
     {
-        const app_WallPoint& from = section.wallPoints[i - 1];
-        const app_WallPoint& to = section.wallPoints[i];
-        if (to.thickness > 0.0 && !(from.place == to.place))
-            section.parts.push_back({Wall(from.place, to.place, to.thickness)});
+        if (!IsWall(points, i))
+            continue;
+        section.parts.push_back({Wall(points[i - 1].place, points[i].place, points[i].thickness)});
+        if (!IsWall(points, i + 1))
+            continue;
+        if (auto corner = Corner(points[i - 1].place, points[i], points[i + 1]))
+            section.corners.push_back(std::move(*corner));
     }
     of.Require(!section.parts.empty(), "its table has no two points with a wall between them");
     return section;
@@ -452,6 +494,8 @@ app_Box app_Section::Bounds() const
     app_Box box;
     for (const app_Outline& part : parts)
         box.Add(app_BoundsOf(part));
+    for (const app_Polygon& corner : corners)
+        box.Add(app_BoundsOf({corner}));
     return box;
 }
 

@@ -40,6 +40,7 @@ struct app_WallPoint
 struct app_Section
 {
     std::vector<app_Outline> parts;
+    std::vector<app_Polygon> corners; ///< What closes the corners between walls that are parts.
     std::vector<app_Measure> measures;
     std::optional<app_Point> origin;       ///< Of the section's axes, where attributes give it.
     std::vector<app_WallPoint> wallPoints; ///< Of a section given by its points.

@@ -18,17 +18,21 @@ constexpr app_Pen axisPen{"#b02a3a", 0.9, "10 3 2 3"};
 
 void DrawParts(app_Svg& svg, const app_Section& section, const app_SectionFrame& frame)
 {
-    // Walls that overlap are to look like one piece: all rims first, then what lies between them.
     if (section.wallPoints.empty())
     {
         for (const app_Outline& part : section.parts)
             svg.Area(frame.At(part), wallColor, rimPen);
         return;
     }
-    for (const app_Outline& part : section.parts)
-        svg.Area(frame.At(part), wallColor, {rimPen.color, 2.0 * rimPen.width});
-    for (const app_Outline& part : section.parts)
-        svg.Area(frame.At(part), wallColor, noPen);
+    // Walls that overlap are to look like one piece: all rims first, then what lies between them.
+    std::vector<app_Outline> pieces = section.parts;
+    for (const app_Polygon& corner : section.corners)
+        pieces.push_back({corner});
+    for (const app_Pen& pen : {app_Pen{rimPen.color, 2.0 * rimPen.width}, noPen})
+    {
+        for (const app_Outline& piece : pieces)
+            svg.Area(frame.At(piece), wallColor, pen);
+    }
 }
 
 /// The axes of the section, through their origin.
@@ -43,7 +47,7 @@ void DrawOrigin(app_Svg& svg, app_Point origin)
 /// How far from a point its number stands: off the walls that meet there.
 double DistanceOfNumber(const std::vector<app_WallPoint>& points, std::size_t i, double scale)
 {
-    constexpr double least = 10.0;
+    constexpr double least = 12.0;
     const double before = i == 0 ? 0.0 : points[i].thickness;
     const double behind = i + 1 == points.size() ? 0.0 : points[i + 1].thickness;
     return least + std::max(before, behind) / 2.0 * scale;

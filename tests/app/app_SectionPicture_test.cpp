@@ -135,6 +135,22 @@ std::vector<XmlElement> DrawnLines(const std::vector<app_DimensionLine>& lines)
     return elements;
 }
 
+/// Within a property: draws the profile, unless it is refused for what it is.
+void ExpectWholeOrRefused(const cls_Value& profile)
+{
+    try
+    {
+        Drawn(profile);
+    }
+    catch (const app_Error& error)
+    {
+        RC_TAG(std::string("refused"));
+        const std::string message = error.what();
+        RC_ASSERT(message.rfind("its ", 0) == 0 || message.rfind("neither its ", 0) == 0 ||
+                  message.rfind("row ", 0) == 0);
+    }
+}
+
 RC_GTEST_PROP(SectionPicture, isWholeOrRefusedWhateverTheNumbers, ())
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
@@ -162,16 +178,21 @@ RC_GTEST_PROP(SectionPicture, isWholeOrRefusedWhateverTheNumbers, ())
             *rc::gen::element(0.0, -1.0, 1e-3, 1e-140, 1e140, 1e300, nan, infinity, -infinity);
         object.emplace_back(shape[i], cls_ValueOfDouble(*rc::gen::inRange(0, 12) == 0 ? strange : fitting));
     }
-    try
+    ExpectWholeOrRefused(object);
+}
+
+RC_GTEST_PROP(SectionPicture, isWholeOrRefusedWhateverThePoints, ())
+{
+    const auto number = [](int most)
     {
-        Drawn(object);
-    }
-    catch (const app_Error& error)
-    {
-        RC_TAG(std::string("refused"));
-        RC_ASSERT(std::string(error.what()).rfind("its ", 0) == 0 ||
-                  std::string(error.what()).rfind("neither its ", 0) == 0);
-    }
+        const double strange =
+            *rc::gen::element(-1.0, 1e-140, 1e140, std::numeric_limits<double>::quiet_NaN());
+        return cls_ValueOfDouble(*rc::gen::inRange(0, 40) == 0 ? strange : *rc::gen::inRange(0, most) / 2.0);
+    };
+    cls_Value::Array rows;
+    for (int i = *rc::gen::inRange(0, 8); i > 0; --i)
+        rows.push_back(cls_Value::Array{number(8), number(8), number(3)});
+    ExpectWholeOrRefused(cls_Value::Object{{"class", "kbpC_ArbitraryProfile"}, {"table", std::move(rows)}});
 }
 
 struct Side
@@ -207,6 +228,16 @@ TEST(DimensionLines, ShareARowOnlyIfTheyDoNotMeet)
     const std::vector<XmlElement> over = DrawnLines(
         {{"whole", {0, 100}, {200, 100}, app_Side::Below}, {"half", {0, 100}, {100, 100}, app_Side::Below}});
     EXPECT_LT(heightOf(over, "half"), heightOf(over, "whole")) << "the short one lies next to the section";
+}
+
+TEST(DimensionLines, HaveATextThatDoesNotFitBeyondTheirOuterEnd)
+{
+    const std::vector<XmlElement> elements = DrawnLines({{"t3 = 1.25", {0, 0}, {6, 0}, app_Side::Above},
+                                                         {"t1 = 1.25", {190, 0}, {200, 0}, app_Side::Above},
+                                                         {"a = 125", {50, 0}, {150, 0}, app_Side::Above}});
+    EXPECT_LT(BoxOf(TextsReading(elements, "t3 = 1.25").at(0)).Max().x, -18.0);
+    EXPECT_GT(BoxOf(TextsReading(elements, "t1 = 1.25").at(0)).Min().x, 200.0 + 18.0);
+    EXPECT_NEAR(100.0, BoxOf(TextsReading(elements, "a = 125").at(0)).Middle().x, 0.01);
 }
 
 TEST(DimensionLines, AreLeftOutWithoutLength)

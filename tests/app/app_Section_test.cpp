@@ -208,6 +208,36 @@ TEST(Section, ShowsEachOfItsDimensions)
     }
 }
 
+struct Bend
+{
+    const char* what;
+    cls_Value profile;
+    std::vector<app_Polygon> corners;
+};
+
+TEST(Section, ClosesTheOuterCornersBetweenWalls)
+{
+    const Bend rows[] = {
+        {"to the left",
+         Arbitrary({Row(0, 0, 0), Row(40, 0, 2), Row(40, 30, 4)}),
+         {{{40, 0}, {40, -1}, {42, -1}, {42, 0}}}},
+        {"to the right",
+         Arbitrary({Row(0, 0, 0), Row(40, 0, 2), Row(40, -30, 4)}),
+         {{{40, 0}, {40, 1}, {42, 1}, {42, 0}}}},
+        {"straight on", Arbitrary({Row(0, 0, 0), Row(40, 0, 2), Row(90, 0, 4)}), {}},
+        {"back", Arbitrary({Row(0, 0, 0), Row(40, 0, 2), Row(10, 0, 4)}), {}},
+        {"from no wall", Arbitrary({Row(0, 0, 0), Row(40, 0, 0), Row(40, 30, 4)}), {}},
+        {"past a point that stands twice",
+         Arbitrary({Row(0, 0, 0), Row(40, 0, 2), Row(40, 0, 2), Row(40, 30, 4)}),
+         {}},
+    };
+    for (const Bend& row : rows)
+        EXPECT_EQ(row.corners, app_SectionOf(row.profile).corners) << row.what;
+    const app_Section sharp = app_SectionOf(Arbitrary({Row(0, 0, 0), Row(40, 0, 2), Row(0, 4, 2)}));
+    ASSERT_EQ(1U, sharp.corners.size());
+    EXPECT_EQ(3U, sharp.corners.front().size()) << "a sharp corner is cut off";
+}
+
 TEST(Section, HasTheWallsOfABoxWhereTheyBelong)
 {
     const app_Section section =

@@ -17,7 +17,7 @@ TEST(DemoTour, FindsEverythingAsItExpects)
     for (const char* part :
          {"amplitudes['ramp'].smooth: not set -> 0.75\n", "\nmodel.undo()\n",
           "~ model.amplitudes['ramp'] (kamC_Tabular)\n    smooth: 0.25 -> SOLVER_DEFAULT\n",
-          "show beam.json \"profiles['crane girder']\" --svg",
+          "show frame.json \"profiles['crane girder']\" --svg",
           "did you mean 'blow'?\n  model.amplitudes['bolw']\n                  ^~~~~~~~\n",
           "quake.vdb and again.vdb hold the same model.", "+ model.amplitudes['blow'] (kamC_Decay)\n",
           "kamC_Amplitude      12 rows  from 203  to 430  by 208, 424 (Upgrade_kamC_Amplitude_208_424), "
