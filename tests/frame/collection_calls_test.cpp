@@ -1,9 +1,23 @@
-// Collections of objects as a store sees them: the calls that writing and reading one makes, in their order.
+// Collections of objects, and optional objects, as a store sees them: the calls that writing and reading one
+// makes, in their order.
 
 #include "MementoMocks.h"
 #include "tst_EveryKind.h"
 
 #include <gtest/gtest.h>
+
+#include <string>
+
+/// Has an object held directly and one of a polymorphic root; either may be absent.
+class tst_TwoOptions : public mem_AllocationOperators
+{
+    CLS_CONCRETE_ROOT(tst_TwoOptions, 0x7F000007, 203)
+    CLS_ATTRIBUTE(tst_LeafHandle, leaf)
+    CLS_ATTRIBUTE(tst_BranchHandle, branch)
+    CLS_END
+};
+
+CLS_IMPLEMENT(tst_TwoOptions)
 
 namespace
 {
@@ -202,6 +216,51 @@ TEST_F(CollectionReading, OfAMapByNumberTakesTheObjectBeforeItsKey)
     EXPECT_EQ(map.Uid(), uid);
     ASSERT_NE(map.ConstFind(-3), nullptr);
     EXPECT_EQ(map.ConstFind(-3)->ConstGet(), twig.ConstGet());
+}
+
+/// The field of this name.
+testing::Matcher<const cls_FieldHandle&> Field(const char* name)
+{
+    const auto nameOf = [](const cls_FieldHandle& field) { return std::string(field.Name().CString()); };
+    return testing::ResultOf(nameOf, name);
+}
+
+TEST(OptionalObjects, AreWrittenWithTheirHandleOrAsAbsent)
+{
+    tst_TwoOptions object;
+    object.leaf = tst_LeafHandle(tst_Leaf());
+    StrictMock<WriteMementoMock> memento;
+    StrictMock<WriteMementoMock> leaf;
+    {
+        const InSequence inOrder;
+        EXPECT_CALL(memento, StartWrite(tst_TwoOptions::TypeId(), testing::_)).WillOnce(Return(1));
+        EXPECT_CALL(memento, OpenField(Field("leaf"), &cow_Erased(object.leaf))).WillOnce(Return(&leaf));
+        EXPECT_CALL(leaf, StartWrite(tst_Leaf::TypeId(), testing::_)).WillOnce(Return(0));
+        EXPECT_CALL(leaf, Close());
+        EXPECT_CALL(memento, PutAbsent(Field("branch")));
+        EXPECT_CALL(memento, Close());
+    }
+    object.DBWrite(cls_WriteVisitor(&memento));
+}
+
+TEST(OptionalObjects, ShareTheHandleThatIsReadAndStayEmptyWithoutOne)
+{
+    const tst_LeafHandle leaf{tst_Leaf()};
+    const tst_BranchHandle nothing;
+    StrictMock<ReadMementoMock> memento;
+    {
+        const InSequence inOrder;
+        EXPECT_CALL(memento, GetObject(Field("leaf"), tst_Leaf::TypeId()))
+            .WillOnce(ReturnRef(cow_Erased(leaf)));
+        EXPECT_CALL(memento, GetObject(Field("branch"), tst_Branch::TypeId()))
+            .WillOnce(ReturnRef(cow_Erased(nothing)));
+        EXPECT_CALL(memento, GetUid()).WillOnce(Return(cls_Uid()));
+        EXPECT_CALL(memento, Close());
+    }
+    const tst_TwoOptions object{cls_ReadVisitor(&memento)};
+    EXPECT_EQ(object.leaf.ConstGet(), leaf.ConstGet());
+    EXPECT_EQ(leaf.ShareCount(), 2);
+    EXPECT_TRUE(object.branch.IsNull());
 }
 
 /// A wrapper, and the plain value that it wraps.

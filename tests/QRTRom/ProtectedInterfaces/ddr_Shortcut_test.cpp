@@ -527,6 +527,21 @@ TEST_F(Shortcut, GoesByTheWordThatTheClassHasForItsRepository)
     EXPECT_GE(repositories, 5);
 }
 
+TEST_F(Shortcut, IsReleasedThroughItsMetadata)
+{
+    const auto release = [](unsigned classId, auto* object)
+    {
+        const cls_ClassMetadata* metadata = omi_Singleton<cls_MetadataRegistrar>::Instance()->Find(classId);
+        metadata->DeleteCow(const_cast<cls_ErasedHandle*>(&cow_Erased(*cow_NewHolder(object))));
+    };
+    const kamC_AmplitudeShortcut shortcut = ToAmplitude("A");
+    const std::size_t blocks = mem_BlocksInUse();
+    release(kamC_AmplitudeShortcut::TypeId(), new kamC_AmplitudeShortcut(shortcut));
+    EXPECT_EQ(shortcut.Impl().ShareCount(), 1);
+    release(kamC_AmplitudeIMPLSC::TypeId(), shortcut.Impl()->Copy());
+    EXPECT_EQ(mem_BlocksInUse(), blocks);
+}
+
 TEST_F(Shortcut, TheAbstractStepCannotBeBuilt)
 {
     const cls_ClassMetadata* metadata = omi_Singleton<cls_MetadataRegistrar>::Instance()->Find(0x244000F);
