@@ -132,6 +132,31 @@ void DrawFrame(app_Svg& svg)
     svg.Polyline({{0.0, 0.0}, {0.0, bottom}, {right, bottom}}, framePen);
 }
 
+/// What can be seen of a line: where many points follow each other within one unit of x, the first and the
+/// last of them, the highest and the lowest.
+std::vector<app_Point> Visible(const std::vector<app_Point>& points)
+{
+    constexpr std::ptrdiff_t few = 4;
+    std::vector<app_Point> visible;
+    for (auto begin = points.begin(); begin != points.end();)
+    {
+        const auto end =
+            std::find_if(begin, points.end(),
+                         [begin](app_Point point) { return std::floor(point.x) != std::floor(begin->x); });
+        if (end - begin <= few)
+            visible.insert(visible.end(), begin, end);
+        else
+        {
+            auto [low, high] =
+                std::minmax_element(begin, end, [](app_Point a, app_Point b) { return a.y < b.y; });
+            const auto [one, other] = std::minmax(low, high);
+            visible.insert(visible.end(), {*begin, *one, *other, *(end - 1)});
+        }
+        begin = end;
+    }
+    return visible;
+}
+
 void DrawSeries(app_Svg& svg, const app_ChartFrame& frame, const app_Chart& chart, std::size_t number)
 {
     constexpr double radius = 2.6;
@@ -146,7 +171,7 @@ void DrawSeries(app_Svg& svg, const app_ChartFrame& frame, const app_Chart& char
     if (chart.isHeldAtEnd)
         svg.Line(points.back(), {app_ChartFrame::Width, points.back().y}, {pen.color, heldPenWidth, "5 4"});
     if (points.size() > 1)
-        svg.Polyline(points, pen);
+        svg.Polyline(Visible(points), pen);
     if (points.size() > 1 && (!chart.hasPoints || points.size() > mostMarked))
         return;
     for (const app_Point& point : points)

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -156,6 +157,32 @@ TEST(ChartPicture, NamesManyCurvesAndThenCountsThem)
     EXPECT_EQ(25U, CurvesOf(elements).size());
     EXPECT_THAT(TextsOf(elements), testing::IsSupersetOf({"curve 0", "curve 17", "and 7 more"}));
     EXPECT_THAT(TextsOf(elements), testing::Not(Contains("curve 18")));
+}
+
+TEST(ChartPicture, HasNoMorePointsThanCanBeSeen)
+{
+    app_Series series;
+    for (int i = 0; i < 100000; ++i)
+    {
+        series.x.push_back(i / 100000.0);
+        series.y.push_back(i % 2 == 0 ? 0.5 : 0.4);
+    }
+    series.y[77777] = 1.0;
+    series.y[22222] = -1.0;
+    const app_Chart chart{"x", "y", {series}, true};
+    const std::vector<app_Point> points = PointsOf(CurvesOf(Drawn(chart)).at(0));
+    EXPECT_LE(points.size(), 4U * 641U);
+    EXPECT_GE(points.size(), 3U * 640U);
+    const app_ChartFrame frame(chart);
+    for (const std::size_t extreme : {77777U, 22222U})
+    {
+        const app_Point at = frame.At(series.x[extreme], series.y[extreme]);
+        EXPECT_TRUE(std::any_of(points.begin(), points.end(),
+                                [at](app_Point point) { return app_Length(point - at) < 0.01; }))
+            << extreme;
+    }
+    EXPECT_TRUE(
+        std::is_sorted(points.begin(), points.end(), [](app_Point a, app_Point b) { return a.x < b.x; }));
 }
 
 TEST(ChartPicture, HoldsTheLastValueOnToTheEnd)
