@@ -85,3 +85,11 @@ inline bool rfm_NeedsBits(double value)
     std::memcpy(&bits, &value, sizeof bits);
     return value != value || bits == std::uint64_t{1} << 63;
 }
+
+/// An integer as a real number if that is the same, any other cell as it is.
+inline rfm_Cell rfm_AsReal(const rfm_Cell& cell)
+{
+    constexpr std::int64_t most = std::int64_t{1} << 53;
+    const bool isExact = cell.Is(rfm_CellKind::Integer) && cell.integer >= -most && cell.integer <= most;
+    return isExact ? rfm_Cell::Real(static_cast<double>(cell.integer)) : cell;
+}

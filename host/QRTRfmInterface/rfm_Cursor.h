@@ -37,7 +37,6 @@ public:
 
 private:
     bool TakeRow(std::int64_t sought);
-    void VerifyRow() const;
 
     rfm_Database& database;
     cow_String table;

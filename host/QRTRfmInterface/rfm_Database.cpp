@@ -407,8 +407,9 @@ void rfm_Database::AttachForConversion(const rfm_Database& old)
     Execute("PRAGMA temp_store = FILE");
     Execute("ATTACH '' AS scratch");
     Execute("PRAGMA scratch.page_size = " + std::to_string(pageSize));
-    // What is copied from there is read but once, from start to end.
+    // What is copied is read but once, from start to end, and written likewise: few pages stay near at hand.
     Execute("PRAGMA old.cache_size = 50");
+    Execute("PRAGMA main.cache_size = 200");
     Execute("PRAGMA scratch.cache_size = 1000");
     Execute(rfm_Elements::SqlToCreate(rfm_ScratchSchema));
     rfm_RowCopy::AddFunction(connection, &rowCopy);

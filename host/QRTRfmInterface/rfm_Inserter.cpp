@@ -8,8 +8,7 @@
 rfm_Inserter::rfm_Inserter(rfm_Database& database, const rfm_TableForm& form, rfm_OnConflict onConflict)
     : database(database),
       form(form),
-      batch(database, form, onConflict == rfm_OnConflict::Replace ? "REPLACE" : "INSERT"),
-      row(form.columns.size() + 2)
+      batch(database, form, onConflict == rfm_OnConflict::Replace ? "REPLACE" : "INSERT")
 {}
 
 void rfm_Inserter::Insert(std::int64_t key, const rfm_Cell* cells)
@@ -20,8 +19,10 @@ void rfm_Inserter::Insert(std::int64_t key, const rfm_Cell* cells)
 void rfm_Inserter::Insert(std::int64_t key, const rfm_Cell* cells, const rfm_Cell& check)
 {
     FlushAppended();
-    Gather(key, cells, check);
-    batch.Add(row.data());
+    rfm_Cell* row = batch.NextRow();
+    *row = rfm_Cell::Integer(key);
+    *std::copy_n(cells, form.columns.size(), row + 1) = check;
+    batch.Take();
 }
 
 void rfm_Inserter::Append(std::int64_t key, const rfm_Cell* cells)
@@ -29,8 +30,8 @@ void rfm_Inserter::Append(std::int64_t key, const rfm_Cell* cells)
     batch.Flush();
     if (!appender)
         appender.reset(new rfm_RowBatch(rfm_RowBatch::WithoutKeys(database, form)));
-    Gather(key, cells, rfm_Cell::Integer(CheckOf(key, cells)));
-    appender->Add(row.data() + 1);
+    *std::copy_n(cells, form.columns.size(), appender->NextRow()) = rfm_Cell::Integer(CheckOf(key, cells));
+    appender->Take();
     lastAppended = key;
 }
 
@@ -62,11 +63,4 @@ std::int64_t rfm_Inserter::CheckOf(std::int64_t key, const rfm_Cell* cells) cons
     for (std::size_t i = 0; i < form.columns.size(); ++i)
         check.Add(cells[i]);
     return check.Number();
-}
-
-void rfm_Inserter::Gather(std::int64_t key, const rfm_Cell* cells, const rfm_Cell& check)
-{
-    row.front() = rfm_Cell::Integer(key);
-    std::copy_n(cells, row.size() - 2, row.begin() + 1);
-    row.back() = check;
 }

@@ -32,13 +32,11 @@ public:
 private:
     void FlushAppended();
     std::int64_t CheckOf(std::int64_t key, const rfm_Cell* cells) const;
-    void Gather(std::int64_t key, const rfm_Cell* cells, const rfm_Cell& check);
 
     rfm_Database& database;
     rfm_TableForm form;
     rfm_RowBatch batch;
     std::unique_ptr<rfm_RowBatch> appender; ///< made when it is needed
     std::unique_ptr<rfm_Statement> highest;
-    std::vector<rfm_Cell> row; ///< key, cells, check number
     std::int64_t lastAppended = 0;
 };

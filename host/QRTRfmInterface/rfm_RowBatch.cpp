@@ -13,28 +13,26 @@ std::size_t BytesOf(const rfm_Cell& cell)
 } // namespace
 
 rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const cow_String& table, int width)
-    : rfm_RowBatch(database, table, "INSERT INTO " + rfm_Quoted(table), width)
+    : rfm_RowBatch(database, table, "INSERT INTO " + rfm_Quoted(table), "(", width)
 {}
 
 rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const rfm_TableForm& form, const char* deed)
-    : rfm_RowBatch(database, form.name, std::string(deed) + " INTO " + form.SqlName(),
+    : rfm_RowBatch(database, form.name, std::string(deed) + " INTO " + form.SqlName(), "(",
                    static_cast<int>(form.columns.size() + 2))
 {}
 
 rfm_RowBatch rfm_RowBatch::WithoutKeys(rfm_Database& database, const rfm_TableForm& form)
 {
-    std::string sql = "INSERT INTO " + form.SqlName() + " (";
-    for (const rfm_Column& column : form.columns)
-        sql += rfm_Quoted(column.name) + ",";
-    return {database, form.name, sql + rfm_Quoted(rfm_CheckColumn) + ")",
+    return {database, form.name, "INSERT INTO " + form.SqlName(), "(NULL,",
             static_cast<int>(form.columns.size() + 1)};
 }
 
 rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const cow_String& table, const std::string& sqlStart,
-                           int width)
+                           const char* rowStart, int width)
     : database(database),
       table(table),
       sqlStart(sqlStart),
+      rowStart(rowStart),
       width(width),
       rowLimit(std::clamp(mostParameters / width, 1, mostRows)),
       single(database, SqlFor(1), table),
@@ -43,7 +41,7 @@ rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const cow_String& table, cons
 
 std::string rfm_RowBatch::SqlFor(int rows) const
 {
-    std::string row = "(?";
+    std::string row = rowStart + std::string("?");
     for (int i = 1; i < width; ++i)
         row += ",?";
     row += ")";
@@ -55,36 +53,43 @@ std::string rfm_RowBatch::SqlFor(int rows) const
 
 void rfm_RowBatch::Add(const rfm_Cell* cells)
 {
+    std::copy_n(cells, width, NextRow());
+    Take();
+}
+
+void rfm_RowBatch::Take()
+{
+    rfm_Cell* row = NextRow();
     std::size_t bytes = 0;
     for (int i = 0; i < width; ++i)
-        bytes += BytesOf(cells[i]);
-    if (bytes > arenaSize)
+        bytes += BytesOf(row[i]);
+    if (bytes > arenaSize - arenaUsed) [[unlikely]]
     {
         Flush();
-        Run(single, cells, 1);
+        row = std::copy_n(row, width, NextRow()) - width;
+    }
+    if (bytes > arenaSize) [[unlikely]]
+    {
+        Run(single, row, 1);
         return;
     }
-    if (arenaUsed + bytes > arenaSize)
-        Flush();
     if (!arena)
         arena = std::make_unique<char[]>(arenaSize);
-    rfm_Cell* row = gathered.data() + static_cast<std::ptrdiff_t>(rowCount) * width;
     for (int i = 0; i < width; ++i)
-        row[i] = Kept(cells[i]);
+        Keep(row[i]);
     if (++rowCount == rowLimit)
         Flush();
 }
 
-rfm_Cell rfm_RowBatch::Kept(const rfm_Cell& cell)
+void rfm_RowBatch::Keep(rfm_Cell& cell)
 {
     const std::size_t size = BytesOf(cell);
     if (size == 0)
-        return cell;
-    rfm_Cell kept = cell;
-    kept.bytes = arena.get() + arenaUsed;
-    std::memcpy(arena.get() + arenaUsed, cell.bytes, size);
+        return;
+    char* place = arena.get() + arenaUsed;
+    std::memcpy(place, cell.bytes, size);
+    cell.bytes = place;
     arenaUsed += size;
-    return kept;
 }
 
 void rfm_RowBatch::Flush()

@@ -23,6 +23,9 @@ public:
 
     /// Takes a row of `width` cells; texts and blobs are copied. Rows are put in in this order.
     void Add(const rfm_Cell* cells);
+    /// The place for the cells of the next row, which `Take` then takes.
+    rfm_Cell* NextRow() { return gathered.data() + static_cast<std::ptrdiff_t>(rowCount) * width; }
+    void Take();
     /// Puts in what has been gathered.
     void Flush();
 
@@ -34,13 +37,15 @@ private:
 
     std::string SqlFor(int rows) const;
     void Run(rfm_Statement& statement, const rfm_Cell* cells, int rows);
-    rfm_Cell Kept(const rfm_Cell& cell);
+    void Keep(rfm_Cell& cell);
 
-    rfm_RowBatch(rfm_Database& database, const cow_String& table, const std::string& sqlStart, int width);
+    rfm_RowBatch(rfm_Database& database, const cow_String& table, const std::string& sqlStart,
+                 const char* rowStart, int width);
 
     rfm_Database& database;
     cow_String table;
     std::string sqlStart;
+    const char* rowStart; ///< a row's values up to the first parameter
     int width;
     int rowLimit;
     rfm_Statement single;

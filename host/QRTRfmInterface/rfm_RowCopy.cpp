@@ -1,58 +1,15 @@
 #include "rfm_RowCopy.h"
 
-#include "rfm_Check.h"
 #include "rfm_Database.h"
 #include "rfm_RowBatch.h"
+#include "rfm_Value.h"
 
 #include <algorithm>
-#include <sqlite3.h>
 
 namespace
 {
 constexpr char functionName[] = "rfm_copy_row";
 constexpr std::int64_t rowsBetweenReports = 4096;
-
-rfm_Cell CellOf(sqlite3_value* value)
-{
-    switch (sqlite3_value_type(value))
-    {
-    case SQLITE_INTEGER:
-        return rfm_Cell::Integer(sqlite3_value_int64(value));
-    case SQLITE_FLOAT:
-        return rfm_Cell::Real(sqlite3_value_double(value));
-    case SQLITE_TEXT:
-    {
-        const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));
-        return rfm_Cell::Text({bytes, static_cast<std::size_t>(sqlite3_value_bytes(value))});
-    }
-    case SQLITE_BLOB:
-    {
-        const void* bytes = sqlite3_value_blob(value);
-        return rfm_Cell::Blob(bytes, static_cast<std::size_t>(sqlite3_value_bytes(value)));
-    }
-    default:
-        return rfm_Cell::Null();
-    }
-}
-
-/// The kind of cell that a column is made for; `Unset` where there are several.
-rfm_CellKind KindFor(rfm_ColumnKind kind)
-{
-    switch (kind)
-    {
-    case rfm_ColumnKind::Integer:
-        return rfm_CellKind::Integer;
-    case rfm_ColumnKind::Real:
-        return rfm_CellKind::Real;
-    case rfm_ColumnKind::Text:
-        return rfm_CellKind::Text;
-    case rfm_ColumnKind::Blob:
-        return rfm_CellKind::Blob;
-    case rfm_ColumnKind::Any:
-        break;
-    }
-    return rfm_CellKind::Unset;
-}
 
 bool Fits(const rfm_Cell& cell, rfm_ColumnKind kind)
 {
@@ -84,6 +41,24 @@ void rfm_ReferenceColumn::NoteOther(std::int64_t classId, std::int64_t oid)
         *found = {classId, std::min(found->low, oid), std::max(found->high, oid)};
 }
 
+rfm_CellKind rfm_PlainKindOf(rfm_ColumnKind kind)
+{
+    switch (kind)
+    {
+    case rfm_ColumnKind::Integer:
+        return rfm_CellKind::Integer;
+    case rfm_ColumnKind::Real:
+        return rfm_CellKind::Real;
+    case rfm_ColumnKind::Text:
+        return rfm_CellKind::Text;
+    case rfm_ColumnKind::Blob:
+        return rfm_CellKind::Blob;
+    case rfm_ColumnKind::Any:
+        break;
+    }
+    return rfm_CellKind::Unset;
+}
+
 void rfm_RequireKind(const rfm_Database& owner, const rfm_TableForm& form, std::size_t column,
                      std::int64_t oid, const rfm_Cell& cell)
 {
@@ -100,7 +75,7 @@ rfm_RowCopy::rfm_RowCopy(rfm_Database& database, Plan newPlan, std::vector<rfm_R
       plan(std::move(newPlan)),
       references(references),
       numbers(numbers),
-      keepsOrder(KeepsOrder()),
+      sharedCells(CountSharedCells()),
       source(plan.from.columns.size()),
       target(plan.to.columns.size())
 {
@@ -114,24 +89,21 @@ void rfm_RowCopy::AddFunction(sqlite3* connection, rfm_RowCopy** place)
                                nullptr, nullptr, nullptr);
 }
 
-/// Whether a row whose cells stay has the check number of its source.
-bool rfm_RowCopy::KeepsOrder() const
+std::size_t rfm_RowCopy::CountSharedCells() const
 {
-    if (plan.from.checkSeed != plan.to.checkSeed || plan.from.columns.size() != plan.to.columns.size())
-        return false;
-    for (std::size_t i = 0; i < plan.columns.size(); ++i)
-    {
-        if (plan.columns[i].source != static_cast<int>(i))
-            return false;
-    }
-    return true;
+    if (plan.from.checkSeed != plan.to.checkSeed)
+        return 0;
+    std::size_t count = 0;
+    while (count < plan.columns.size() && plan.columns[count].source == static_cast<int>(count))
+        ++count;
+    return count;
 }
 
 rfm_RowCopy::Quick rfm_RowCopy::QuickOf(const rfm_CopyColumn& column, rfm_ColumnKind kind)
 {
     if (column.source < 0 || column.use == rfm_CopyColumn::Use::ClassId)
         return {};
-    return {static_cast<std::size_t>(column.source), KindFor(kind)};
+    return {static_cast<std::size_t>(column.source), rfm_PlainKindOf(kind)};
 }
 
 void rfm_RowCopy::Run(const std::function<void(std::int64_t)>& newProgress)
@@ -139,12 +111,38 @@ void rfm_RowCopy::Run(const std::function<void(std::int64_t)>& newProgress)
     progress = &newProgress;
     plan.expectsNoNull = plan.expectsNoNull && FitsOneStatement();
     appends = plan.expectsNoNull;
+    try
+    {
+        CopyRows();
+    }
+    catch (const rom_StoreException&)
+    {
+        RequireSource();
+        throw;
+    }
+    newProgress(untoldRows);
+    untoldRows = 0;
+}
+
+void rfm_RowCopy::CopyRows()
+{
     if (FitsOneStatement())
         RunAsOne();
     else
         RunRowByRow();
-    newProgress(untoldRows);
-    untoldRows = 0;
+}
+
+/// What SQLite finds wrong is told of the connection's own file. If it is the store of the rows that can't be
+/// read, that store's own connection meets it as well, and names it.
+void rfm_RowCopy::RequireSource()
+{
+    const int found = sqlite3_errcode(database.Connection()) & 0xFF;
+    const bool isReading = found == SQLITE_CORRUPT || found == SQLITE_IOERR || found == SQLITE_NOTADB;
+    if (!isReading || plan.owner == &database)
+        return;
+    rfm_Statement rows(*plan.owner, "SELECT * FROM " + rfm_Quoted(plan.from.name), plan.from.name);
+    while (rows.Step())
+    {}
 }
 
 bool rfm_RowCopy::FitsOneStatement() const
@@ -236,14 +234,14 @@ bool rfm_RowCopy::IsRun()
 std::string rfm_RowCopy::SqlToRun() const
 {
     int parameter = 1;
-    const std::string key = appends ? "" : rfm_Quoted(plan.to.keyColumn) + ",";
     const char* deed = plan.onConflict == rfm_OnConflict::Replace ? "REPLACE" : "INSERT";
-    std::string sql = std::string(deed) + " INTO " + plan.to.SqlName() + " (" + key;
+    std::string sql =
+        std::string(deed) + " INTO " + plan.to.SqlName() + " (" + rfm_Quoted(plan.to.keyColumn) + ",";
     for (const rfm_Column& column : plan.to.columns)
         sql += rfm_Quoted(column.name) + ",";
-    sql += rfm_Quoted(rfm_CheckColumn) + ") SELECT ";
-    if (!appends)
-        sql += rfm_Quoted(plan.from.keyColumn) + ",";
+    // With all columns in the table's order SQLite makes the record where it puts the values.
+    sql += rfm_Quoted(rfm_CheckColumn) + ") SELECT " + (appends ? "NULL" : rfm_Quoted(plan.from.keyColumn)) +
+           ",";
     for (std::size_t i = 0; i < plan.columns.size(); ++i)
         sql += SqlOfColumn(i, parameter) + ",";
     return sql + functionName + "(" + SqlOfSourceColumns() + ") FROM " + plan.from.SqlName() +
@@ -282,11 +280,11 @@ void rfm_RowCopy::RunRowByRow()
     while (rows.Step())
     {
         const std::int64_t oid = rows.Column(1).integer;
-        for (std::size_t i = 0; i < source.size(); ++i)
-            source[i] = rows.Column(static_cast<int>(i + 2));
-        const std::int64_t check = Convert(oid, rows.Column(0));
+        const std::int64_t check = Convert(oid, rows.Column(0),
+                                           [&rows](std::size_t i, rfm_Check& found)
+                                           { return rows.Column(static_cast<int>(i + 2), found); });
         row.front() = rfm_Cell::Integer(oid);
-        std::copy(target.begin(), target.end(), row.begin() + 1);
+        std::copy_n(newRow, target.size(), row.begin() + 1);
         row.back() = rfm_Cell::Integer(check);
         batch.Add(row.data());
     }
@@ -303,10 +301,11 @@ void rfm_RowCopy::CopyRow(sqlite3_context* context, int count, sqlite3_value** a
     }
     try
     {
-        for (int i = 2; i < count; ++i)
-            copy->source[static_cast<std::size_t>(i - 2)] = ::CellOf(arguments[i]);
-        sqlite3_result_int64(context,
-                             copy->Convert(sqlite3_value_int64(arguments[1]), ::CellOf(arguments[0])));
+        sqlite3_value** cells = arguments + 2;
+        const std::int64_t check = copy->Convert(sqlite3_value_int64(arguments[1]), rfm_CellOf(arguments[0]),
+                                                 [cells](std::size_t i, rfm_Check& found)
+                                                 { return rfm_CheckedCellOf(cells[i], found); });
+        sqlite3_result_int64(context, check);
     }
     catch (...)
     {
@@ -315,33 +314,57 @@ void rfm_RowCopy::CopyRow(sqlite3_context* context, int count, sqlite3_value** a
     }
 }
 
-std::int64_t rfm_RowCopy::Convert(std::int64_t oid, const rfm_Cell& check)
+/// The check number goes through the cells in order, so that of the new row begins as that of its source.
+template <class TakeCell>
+std::int64_t rfm_RowCopy::Convert(std::int64_t oid, const rfm_Cell& check, const TakeCell& takeCell)
 {
-    rfm_Check expected(plan.from.checkSeed, oid);
-    if (!check.IsNull() || keepsOrder)
+    rfm_Check found(plan.from.checkSeed, oid);
+    rfm_Cell* cells = source.data();
+    bool isShared = true;
+    for (std::size_t i = 0; i < sharedCells; ++i)
     {
-        for (const rfm_Cell& cell : source)
-            expected.Add(cell);
-        if (!check.IsNull() && (!check.Is(rfm_CellKind::Integer) || check.integer != expected.Number()))
-            RaiseDamaged(oid);
+        cells[i] = takeCell(i, found);
+        isShared = isShared && cells[i].Is(quick[i].kind);
     }
-    bool isSame = keepsOrder;
+    rfm_Check made = found;
+    for (std::size_t i = sharedCells; i < source.size(); ++i)
+        cells[i] = takeCell(i, found);
+    if (!check.IsNull() && (!check.Is(rfm_CellKind::Integer) || check.integer != found.Number()))
+        RaiseDamaged(oid);
+    newRow = cells;
+    if (!isShared || sharedCells < target.size())
+    {
+        const std::size_t same = MakeTarget(oid) ? sharedCells : 0;
+        if (same == 0)
+            made = rfm_Check(plan.to.checkSeed, oid);
+        for (std::size_t i = same; i < target.size(); ++i)
+            made.Add(target[i]);
+        newRow = target.data();
+    }
+    for (rfm_ReferenceColumn& reference : references)
+        reference.Note(newRow);
+    CountRow(oid);
+    return made.Number();
+}
+
+/// Returns whether the cells that the new row shares with its source stayed as they were.
+bool rfm_RowCopy::MakeTarget(std::int64_t oid)
+{
+    std::size_t firstChanged = target.size();
     for (std::size_t i = 0; i < target.size(); ++i)
     {
         const rfm_Cell& cell = source[quick[i].source];
-        target[i] = cell.Is(quick[i].kind) ? cell : CellOf(i, oid, isSame);
+        if (cell.Is(quick[i].kind)) [[likely]]
+        {
+            target[i] = cell;
+            continue;
+        }
+        bool isSame = true;
+        target[i] = CellOf(i, oid, isSame);
+        if (!isSame)
+            firstChanged = std::min(firstChanged, i);
     }
-    for (rfm_ReferenceColumn& reference : references)
-        reference.Note(target.data());
-    CountRow(oid);
-    if (appends && oid != ++lastAppended)
-        RaiseHole(oid);
-    if (isSame)
-        return expected.Number();
-    rfm_Check made(plan.to.checkSeed, oid);
-    for (const rfm_Cell& cell : target)
-        made.Add(cell);
-    return made.Number();
+    return firstChanged >= sharedCells;
 }
 
 /// What the column's expression in SQL gives as well.
@@ -379,7 +402,7 @@ rfm_Cell rfm_RowCopy::CellOf(std::size_t position, std::int64_t oid, bool& isSam
     // A column that is declared to hold real numbers makes them of integers.
     if (kind == rfm_ColumnKind::Real && cell.Is(rfm_CellKind::Integer))
     {
-        cell = rfm_Cell::Real(static_cast<double>(cell.integer));
+        cell = rfm_AsReal(cell);
         isSame = false;
     }
     rfm_RequireKind(*plan.owner, plan.to, position, oid, cell);
@@ -389,6 +412,8 @@ rfm_Cell rfm_RowCopy::CellOf(std::size_t position, std::int64_t oid, bool& isSam
 void rfm_RowCopy::CountRow(std::int64_t oid)
 {
     numbers.Note(oid);
+    if (appends && oid != ++lastAppended)
+        RaiseHole(oid);
     if (++untoldRows < rowsBetweenReports)
         return;
     (*progress)(untoldRows);

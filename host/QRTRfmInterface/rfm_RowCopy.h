@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ovr_Export.h"
+#include "rfm_Check.h"
 #include "rfm_Inserter.h"
 #include "rfm_Statement.h"
 #include "rfm_TableForm.h"
@@ -72,6 +73,7 @@ public:
 
     int ClassCell() const { return classCell; }
     int OidCell() const { return oidCell; }
+    std::int64_t FixedClassId() const { return fixedClassId; }
     const std::vector<Range>& Ranges() const { return ranges; }
     /// Count of references that are absent.
     std::int64_t Nulls() const { return nulls; }
@@ -123,6 +125,9 @@ struct rfm_RowNumbers
     bool AreWithoutHoles() const { return count > 0 && high - low == count - 1; }
 };
 
+/// The kind of cell that a column is made for; `Unset`, which no stored cell is, where there are several.
+OVR_EXPORT rfm_CellKind rfm_PlainKindOf(rfm_ColumnKind kind);
+
 /// Throws, naming the store, unless a cell holds what its column is declared to; NULL is nothing that it may
 /// hold.
 OVR_EXPORT void rfm_RequireKind(const rfm_Database& owner, const rfm_TableForm& form, std::size_t column,
@@ -139,7 +144,7 @@ public:
 
     struct Plan
     {
-        const rfm_Database* owner; ///< the store that is named where a row is damaged
+        rfm_Database* owner; ///< the store that is named where its rows are damaged
         rfm_TableForm from;
         rfm_TableForm to;
         std::vector<rfm_CopyColumn> columns; ///< one for each of `to`
@@ -177,8 +182,10 @@ private:
     static Quick QuickOf(const rfm_CopyColumn& column, rfm_ColumnKind kind);
     static void CopyRow(sqlite3_context* context, int count, sqlite3_value** arguments);
 
+    void CopyRows();
+    void RequireSource();
     bool FitsOneStatement() const;
-    bool KeepsOrder() const;
+    std::size_t CountSharedCells() const;
     std::string SqlOfColumn(std::size_t column, int& parameter) const;
     std::string SqlOfConditions() const;
     std::string SqlOfSourceColumns() const;
@@ -188,8 +195,11 @@ private:
     std::string SqlToRun() const;
     void RunStatement();
     void RunRowByRow();
-    /// Makes the new row of a source row, and returns its check number.
-    std::int64_t Convert(std::int64_t oid, const rfm_Cell& check);
+    /// Makes the new row of a source row, whose cells `takeCell` gives and enters into a check number, and
+    /// returns the new one's.
+    template <class TakeCell>
+    std::int64_t Convert(std::int64_t oid, const rfm_Cell& check, const TakeCell& takeCell);
+    bool MakeTarget(std::int64_t oid);
     rfm_Cell CellOf(std::size_t column, std::int64_t oid, bool& isSame);
     [[noreturn]] void RaiseNull(std::int64_t oid, std::size_t column);
     [[noreturn]] void RaiseHole(std::int64_t oid);
@@ -201,7 +211,8 @@ private:
     std::vector<rfm_ReferenceColumn>& references;
     rfm_RowNumbers& numbers;
     std::vector<Quick> quick;
-    bool keepsOrder;
+    /// Cells at the beginning of a row that enter the check numbers of both rows alike if they stay.
+    std::size_t sharedCells;
     bool hasMetNull = false;
     /// Rows that are numbered from 1 on without holes take the numbers that SQLite gives, and it need not
     /// look for each whether it is there.
@@ -211,6 +222,7 @@ private:
     const std::function<void(std::int64_t)>* progress = nullptr;
     std::vector<rfm_Cell> source;
     std::vector<rfm_Cell> target;
+    const rfm_Cell* newRow = nullptr; ///< of the last row: `target`, or `source` where that begins with it
     std::int64_t untoldRows = 0;
     std::exception_ptr failure;
 };

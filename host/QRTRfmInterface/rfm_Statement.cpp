@@ -1,10 +1,10 @@
 #include "rfm_Statement.h"
 
 #include "rfm_Database.h"
+#include "rfm_Value.h"
 
 #include <algorithm>
 #include <bit>
-#include <sqlite3.h>
 
 namespace
 {
@@ -98,27 +98,12 @@ void rfm_Statement::Reset() noexcept
 
 rfm_Cell rfm_Statement::Column(int column) const
 {
-    switch (sqlite3_column_type(statement, column))
-    {
-    case SQLITE_INTEGER:
-        return rfm_Cell::Integer(sqlite3_column_int64(statement, column));
-    case SQLITE_FLOAT:
-        return rfm_Cell::Real(sqlite3_column_double(statement, column));
-    case SQLITE_TEXT:
-    {
-        // The store is UTF-8, so the bytes can be had without a copy that ends with a null.
-        const void* bytes = sqlite3_column_blob(statement, column);
-        const int size = sqlite3_column_bytes(statement, column);
-        return rfm_Cell::Text({static_cast<const char*>(bytes), static_cast<std::size_t>(size)});
-    }
-    case SQLITE_BLOB:
-    {
-        const void* bytes = sqlite3_column_blob(statement, column);
-        return rfm_Cell::Blob(bytes, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
-    }
-    default:
-        return rfm_Cell::Null();
-    }
+    return rfm_CellOf(sqlite3_column_value(statement, column));
+}
+
+rfm_Cell rfm_Statement::Column(int column, rfm_Check& check) const
+{
+    return rfm_CheckedCellOf(sqlite3_column_value(statement, column), check);
 }
 
 int rfm_Statement::ColumnCount() const

@@ -7,6 +7,7 @@
 
 #include <string>
 
+class rfm_Check;
 class rfm_Database;
 struct sqlite3_stmt;
 
@@ -32,6 +33,8 @@ public:
 
     /// A value of the current row, columns counted from 0; texts and blobs stay until the next step.
     rfm_Cell Column(int column) const;
+    /// The same, entered into a check number.
+    rfm_Cell Column(int column, rfm_Check& check) const;
     int ColumnCount() const;
 
 private:

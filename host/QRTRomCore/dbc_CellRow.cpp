@@ -1,5 +1,6 @@
 #include "dbc_CellRow.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 
@@ -53,10 +54,22 @@ dbc_CellRow::dbc_CellRow(const rfm_Database& database, const dbc_Form& form, boo
 
 void dbc_CellRow::Begin(std::int64_t newOid)
 {
+    Leave(newOid);
+    cells.assign(cells.size(), rfm_Cell());
+}
+
+void dbc_CellRow::Begin(std::int64_t newOid, const rfm_Cell* newCells)
+{
+    Leave(newOid);
+    std::copy_n(newCells, cells.size(), cells.begin());
+}
+
+void dbc_CellRow::Leave(std::int64_t newOid)
+{
     oid = newOid;
     texts.clear();
-    copies.clear();
-    cells.assign(cells.size(), rfm_Cell());
+    if (!copies.empty())
+        copies.clear();
 }
 
 void dbc_CellRow::KeepTexts()

@@ -32,6 +32,8 @@ public:
 
     /// Makes it another row, with all cells unset.
     void Begin(std::int64_t newOid);
+    /// The same, with these cells.
+    void Begin(std::int64_t newOid, const rfm_Cell* newCells);
     /// Copies the texts and blobs, so that they stay when their source goes on.
     void KeepTexts();
     /// Gives the row an identity of its own.
@@ -42,6 +44,7 @@ public:
     const rfm_Cell* Cells() const { return cells.data(); }
 
 private:
+    void Leave(std::int64_t newOid);
     const rfm_Cell& CellOf(const rfm_FieldHandle& field) const;
     rfm_Cell& CellFor(const rfm_FieldHandle& field, bool isFitting(dbc_Form::Use use), const char* kind);
     [[noreturn]] void Raise(const rfm_FieldHandle& field, const char* message) const;

@@ -85,3 +85,32 @@ dbc_Form::Field dbc_Form::Find(std::string_view name) const
     }
     return {};
 }
+
+namespace
+{
+bool TakesOver(const dbc_Form& to, int target, const dbc_Form& from, int source)
+{
+    using Use = dbc_Form::Use;
+    const Use taker = to.UseOf(target);
+    const Use holder = from.UseOf(source);
+    if (taker == Use::Boolean)
+        return holder == Use::Boolean;
+    if (taker == Use::Real)
+        return holder == Use::Real || holder == Use::Integer || holder == Use::Boolean;
+    const auto kindOf = [](const dbc_Form& form, int cell)
+    { return form.Table().columns[static_cast<std::size_t>(cell)].kind; };
+    return kindOf(from, source) == kindOf(to, target);
+}
+} // namespace
+
+std::vector<int> dbc_MatchColumns(const dbc_Form& from, const dbc_Form& to)
+{
+    std::vector<int> sources;
+    for (int i = 0; i < to.CellCount(); ++i)
+    {
+        const dbc_Form::Field found = from.Find(to.ColumnName(i).View());
+        const bool fits = found.cell >= 0 && !found.isReference && TakesOver(to, i, from, found.cell);
+        sources.push_back(fits ? found.cell : -1);
+    }
+    return sources;
+}

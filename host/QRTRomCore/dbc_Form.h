@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rfm_Cell.h"
 #include "rom_ClassPlan.h"
 
 #include <string_view>
@@ -61,3 +62,13 @@ private:
     std::vector<Use> uses;
     std::vector<Entry> entries; ///< open addressing, a power of two
 };
+
+/// For each column of one form the column of the same name in another from which it takes values over: one of
+/// its kind, or one whose values it can all hold. -1 for none.
+std::vector<int> dbc_MatchColumns(const dbc_Form& from, const dbc_Form& to);
+
+/// A cell as a column takes it over: an integer as a real number.
+inline rfm_Cell dbc_TakenOver(const rfm_Cell& cell, dbc_Form::Use use)
+{
+    return use == dbc_Form::Use::Real ? rfm_AsReal(cell) : cell;
+}

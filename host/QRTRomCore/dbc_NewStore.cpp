@@ -1,5 +1,6 @@
 #include "dbc_NewStore.h"
 
+#include "dbc_Reach.h"
 #include "mdl_Repository.h"
 #include "typ_ArchCompTable.h"
 
@@ -26,7 +27,7 @@ rfm_CopyColumn::Use CopyUseOf(Use use)
 }
 
 /// A plan that copies a table as it is.
-rfm_RowCopy::Plan WholeCopy(const rfm_Database& owner, const rfm_TableForm& from, const char* schema)
+rfm_RowCopy::Plan WholeCopy(rfm_Database& owner, const rfm_TableForm& from, const char* schema)
 {
     rfm_RowCopy::Plan plan{&owner, from, from, {}, {}, {}};
     plan.from.schema = schema;
@@ -103,6 +104,7 @@ void dbc_NewStore::TakeRoots()
                                  "\" has no row.",
                              table->second.form->Name(), root.oid);
         stores.working.InsertRoot(root);
+        roots.push_back(root);
     }
 }
 
@@ -148,7 +150,7 @@ void dbc_NewStore::TakeTable(const dbc_TableState& state)
         CopyLayer(table, state, i);
 }
 
-dbc_Layer dbc_NewStore::BeginTable(const dbc_Form& form)
+dbc_RowSink dbc_NewStore::BeginTable(const dbc_Form& form)
 {
     Table& table = OpenTable(form);
     table.isBegun = true;
@@ -157,35 +159,48 @@ dbc_Layer dbc_NewStore::BeginTable(const dbc_Form& form)
     for (int i = 0; i < form.CellCount(); ++i)
         layer.source.push_back(i);
     for (int i = 0; i < form.CellCount(); ++i)
-        table.begunColumns.push_back(ColumnFor(form, layer, i));
-    return layer;
+    {
+        const rfm_CopyColumn column = ColumnFor(form, layer, i);
+        const bool isPlain = column.use != rfm_CopyColumn::Use::ClassId;
+        const rfm_ColumnKind kind = table.physical.columns[static_cast<std::size_t>(i)].kind;
+        table.begunColumns.push_back(column);
+        table.plainKinds.push_back(isPlain ? rfm_PlainKindOf(kind) : rfm_CellKind::Unset);
+    }
+    return {std::move(layer),
+            [this, &table](std::int64_t oid, const rfm_Cell* cells) { PutRow(table, oid, cells); },
+            [&table] { table.Flush(); }};
 }
 
-void dbc_NewStore::PutRow(unsigned classId, std::int64_t oid, const rfm_Cell* cells)
+void dbc_NewStore::PutRow(Table& table, std::int64_t oid, const rfm_Cell* cells)
 {
-    Table& table = tables.at(classId);
     for (std::size_t i = 0; i < table.cells.size(); ++i)
     {
-        const rfm_CopyColumn& column = table.begunColumns[i];
-        const rfm_Cell& cell = cells[i];
-        const bool isEmpty = cell.Is(rfm_CellKind::Unset) || cell.IsNull();
-        const bool isUnset = column.use == rfm_CopyColumn::Use::ClassId && cell.Is(rfm_CellKind::Integer) &&
-                             cell.integer == rfm_UnsetReference;
-        table.cells[i] =
-            isUnset || (isEmpty && column.use == rfm_CopyColumn::Use::Scalar) ? column.fallback : cell;
-        if (isEmpty && column.use != rfm_CopyColumn::Use::Scalar)
-            table.cells[i] = rfm_Cell::Null();
-        else if (!isUnset)
-            rfm_RequireKind(stores.old, table.physical, i, oid, table.cells[i]);
+        const bool isPlain = cells[i].Is(table.plainKinds[i]) && !cells[i].Is(rfm_CellKind::Unset);
+        table.cells[i] = isPlain ? cells[i] : CellToPut(table, i, oid, cells[i]);
     }
     Insert(table, oid, table.cells);
 }
 
-void dbc_NewStore::FlushRows(unsigned classId)
+/// A reference that nothing was put into stays marked, or becomes absent, as its default says.
+rfm_Cell dbc_NewStore::CellToPut(const Table& table, std::size_t position, std::int64_t oid,
+                                 const rfm_Cell& cell) const
 {
-    Table& table = tables.at(classId);
-    if (table.inserter)
-        table.inserter->Flush();
+    using Use = rfm_CopyColumn::Use;
+    const rfm_CopyColumn& column = table.begunColumns[position];
+    const bool isUnset =
+        cell.Is(rfm_CellKind::Unset) ||
+        (column.use == Use::ClassId && cell.Is(rfm_CellKind::Integer) && cell.integer == rfm_UnsetReference);
+    if (column.use != Use::Scalar && (isUnset || cell.IsNull()))
+        return isUnset && column.use == Use::ClassId ? column.fallback : rfm_Cell::Null();
+    const rfm_Cell& taken = isUnset || cell.IsNull() ? column.fallback : cell;
+    rfm_RequireKind(stores.old, table.physical, position, oid, taken);
+    return taken;
+}
+
+void dbc_NewStore::Table::Flush()
+{
+    if (inserter)
+        inserter->Flush();
 }
 
 void dbc_NewStore::CopyLayer(Table& table, const dbc_TableState& state, std::size_t position)
@@ -200,7 +215,7 @@ void dbc_NewStore::CopyLayer(Table& table, const dbc_TableState& state, std::siz
         plan.coveredBy.push_back(state.layers[i].physical);
     plan.onConflict = table.isBegun ? rfm_OnConflict::Replace : rfm_OnConflict::Fail;
     plan.expectsNoNull = isOld && position == 0 && !table.isBegun;
-    FlushRows(state.form->ClassId());
+    table.Flush();
     rfm_RowCopy(stores.working, std::move(plan), table.references, table.numbers).Run(progress);
 }
 
@@ -420,8 +435,7 @@ void dbc_NewStore::Flush()
 {
     for (auto& [classId, table] : tables)
     {
-        if (table.inserter)
-            table.inserter->Flush();
+        table.Flush();
         table.inserter.reset();
     }
     if (elements)
@@ -429,8 +443,48 @@ void dbc_NewStore::Flush()
     elements.reset();
 }
 
+bool dbc_NewStore::LeadsToEnded(const std::vector<rfm_ReferenceColumn>& references) const
+{
+    const auto leads = [this](const rfm_ReferenceColumn& column)
+    {
+        return std::any_of(column.Ranges().begin(), column.Ranges().end(),
+                           [this](const rfm_ReferenceColumn::Range& range)
+                           { return ended.count(static_cast<unsigned>(range.classId)) != 0; });
+    };
+    return std::any_of(references.begin(), references.end(), leads);
+}
+
+bool dbc_NewStore::HasRow(const rfm_TableForm& from, const std::string& condition)
+{
+    rfm_Statement statement(
+        stores.working, "SELECT 1 FROM " + from.SqlName() + " WHERE " + condition + " LIMIT 1", from.name);
+    return statement.Step();
+}
+
+/// A store without named objects has nothing that tells what is in use.
+void dbc_NewStore::LeaveOutUnreached()
+{
+    if (roots.empty())
+        return;
+    dbc_Reach reach(stores.working);
+    for (const auto& [classId, table] : tables)
+        reach.AddTable(classId, table.physical, table.references);
+    for (const rfm_Root& root : roots)
+        reach.Walk(root.classId, root.oid);
+    reach.RemoveOthers();
+    // From here on the tables are asked, as there may be holes anywhere.
+    for (auto& [classId, table] : tables)
+        table.numbers = {};
+}
+
 void dbc_NewStore::RequireReferences()
 {
+    const bool leadsToEnded =
+        LeadsToEnded(elementReferences) ||
+        std::any_of(tables.begin(), tables.end(),
+                    [this](const auto& table) { return LeadsToEnded(table.second.references); });
+    if (leadsToEnded)
+        LeaveOutUnreached();
     for (const auto& [classId, table] : tables)
     {
         for (const rfm_ReferenceColumn& column : table.references)
@@ -479,11 +533,12 @@ void dbc_NewStore::RequireFits(const Table& table, const rfm_ReferenceColumn& co
         if (isWrapped && defaults.PlanOf(id).IsA(mdl_Repository::TypeId()))
             return;
     }
-    const cow_String& classColumn = table.form->ColumnName(column.ClassCell());
-    RaiseReference(table.physical, table.form->ColumnName(column.OidCell()),
-                   rfm_Quoted(classColumn) + " = " + std::to_string(classId),
-                   "The reference leads to an object of " + Described(classId) +
-                       ", and the attribute takes " + Described(attribute->typeId) + ".");
+    const std::string condition =
+        rfm_Quoted(table.form->ColumnName(column.ClassCell())) + " = " + std::to_string(classId);
+    if (HasRow(table.physical, condition))
+        RaiseReference(table.physical, table.form->ColumnName(column.OidCell()), condition,
+                       "The reference leads to an object of " + Described(classId) +
+                           ", and the attribute takes " + Described(attribute->typeId) + ".");
 }
 
 void dbc_NewStore::RequireRows(const rfm_TableForm& from, const cow_String& classColumn,
@@ -497,15 +552,18 @@ void dbc_NewStore::RequireRows(const rfm_TableForm& from, const cow_String& clas
     const std::string message =
         "The reference leads to a row of " + Described(range.classId) + " that is not there.";
     if (found == tables.end())
-        RaiseReference(from, oidColumn, ofClass + " AND " + rfm_Quoted(oidColumn) + " IS NOT NULL", message);
+    {
+        const std::string condition = ofClass + " AND " + rfm_Quoted(oidColumn) + " IS NOT NULL";
+        if (HasRow(from, condition))
+            RaiseReference(from, oidColumn, condition, message);
+        return;
+    }
     const rfm_RowNumbers& numbers = found->second.numbers;
     if (numbers.AreWithoutHoles() && range.low >= numbers.low && range.high <= numbers.high)
         return;
     const std::string condition = ofClass + " AND " + rfm_Quoted(oidColumn) +
                                   " NOT IN (SELECT \"OID\" FROM " + found->second.physical.SqlName() + ")";
-    rfm_Statement statement(
-        stores.working, "SELECT 1 FROM " + from.SqlName() + " WHERE " + condition + " LIMIT 1", from.name);
-    if (statement.Step())
+    if (HasRow(from, condition))
         RaiseReference(from, oidColumn, condition, message);
 }
 

@@ -33,6 +33,49 @@ std::vector<const rom_AttributePlan*> AttributesOf(const dbc_Form& form)
         attributes.push_back(&attribute);
     return attributes;
 }
+
+/// The attribute whose first cell this is, or null.
+const rom_AttributePlan* AttributeAt(const dbc_Form& form, int cell)
+{
+    const auto& attributes = form.Plan().Attributes();
+    const auto found = std::find_if(attributes.begin(), attributes.end(),
+                                    [cell](const rom_AttributePlan& each) { return each.cell == cell; });
+    return found == attributes.end() ? nullptr : &*found;
+}
+
+/// Whether an attribute takes over all that one of the same name holds; `sources` as of `dbc_MatchColumns`.
+/// Which classes an object may be of is tested with the references.
+bool TakesOver(const rom_AttributePlan& attribute, const std::vector<int>& sources,
+               const rom_AttributePlan& held)
+{
+    if (attribute.type != cls_TypeObject || held.type != cls_TypeObject)
+        return attribute.type != cls_TypeObject && sources[static_cast<std::size_t>(attribute.cell)] >= 0;
+    return attribute.collection == cls_CollectionNone || held.collection == cls_CollectionNone ||
+           attribute.collection == held.collection;
+}
+
+std::string KindOf(const rom_AttributePlan& attribute)
+{
+    switch (attribute.type)
+    {
+    case cls_TypeInt:
+    case cls_TypeIntSecond:
+        return "an integer";
+    case cls_TypeDouble:
+        return "a real number";
+    case cls_TypeText:
+        return "a text";
+    case cls_TypeBool:
+        return "a truth value";
+    case cls_TypeEnum:
+        return "an enumeration";
+    case cls_TypeObject:
+        break;
+    }
+    return attribute.collection == cls_CollectionNone
+               ? "an object"
+               : "a collection of code " + std::to_string(attribute.collection);
+}
 } // namespace
 
 dbc_Forms::dbc_Forms(const dbc_OldClasses& oldClasses, const cls_ClassRegistrar& currentClasses)
@@ -144,9 +187,10 @@ bool dbc_Plan::IsCurrent(const dbc_Form& form) const
 dbc_PlannedTable dbc_Plan::PlanTable(const rfm_TableInfo& table)
 {
     const dbc_Form& form = FormOf(table);
-    dbc_PlannedTable planned{&form, StepsFrom(form)};
+    dbc_PlannedTable planned{&form, ChainFrom(form)};
     if (!IsCurrent(form))
         FitTo(table, planned);
+    RequireKinds(planned.steps);
     rom_RequireForm(store, table, planned.form->Table());
     return planned;
 }
@@ -214,6 +258,41 @@ const dbc_Form* dbc_Plan::FormWith(const dbc_Form& form,
 }
 
 std::vector<dbc_PlannedStep> dbc_Plan::StepsFrom(const dbc_Form& start) const
+{
+    std::vector<dbc_PlannedStep> chain = ChainFrom(start);
+    RequireKinds(chain);
+    return chain;
+}
+
+void dbc_Plan::RequireKinds(const std::vector<dbc_PlannedStep>& chain) const
+{
+    for (const dbc_PlannedStep& step : chain)
+    {
+        const bool hasFunction =
+            step.converter && (step.converter->ConversionFunction() || step.converter->FinalizeFunction());
+        if (step.to && !hasFunction)
+            RequireKinds(*step.from, *step.to);
+    }
+}
+
+void dbc_Plan::RequireKinds(const dbc_Form& from, const dbc_Form& to) const
+{
+    const std::vector<int> sources = dbc_MatchColumns(from, to);
+    for (const rom_AttributePlan& attribute : to.Plan().Attributes())
+    {
+        const dbc_Form::Field found = from.Find(attribute.field.Name().View());
+        const rom_AttributePlan* held = found.cell < 0 ? nullptr : AttributeAt(from, found.cell);
+        if (!held || TakesOver(attribute, sources, *held))
+            continue;
+        Raise(from,
+              "The attribute holds " + KindOf(*held) + " at version " + std::to_string(from.Version()) +
+                  " and " + KindOf(attribute) + " at version " + std::to_string(to.Version()) +
+                  ", and no function converts it.",
+              attribute.field.Name());
+    }
+}
+
+std::vector<dbc_PlannedStep> dbc_Plan::ChainFrom(const dbc_Form& start) const
 {
     std::vector<dbc_PlannedStep> chain;
     const dbc_Form* form = &start;
@@ -293,7 +372,7 @@ bool dbc_Plan::IsDeleted(unsigned classId) const
     return false;
 }
 
-void dbc_Plan::Raise(const dbc_Form& form, const std::string& message) const
+void dbc_Plan::Raise(const dbc_Form& form, const std::string& message, const cow_String& field) const
 {
-    store.Raise("The table can't be upgraded. " + message, form.Name());
+    store.Raise("The table can't be upgraded. " + message, form.Name(), rom_StoreException::NoRow, field);
 }

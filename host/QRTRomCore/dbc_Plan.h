@@ -65,9 +65,12 @@ public:
     /// nobody knows the class or the version, the table has a column that none of these forms has, or there
     /// are not the steps. The plan keeps the forms that it makes for the table.
     dbc_PlannedTable PlanTable(const rfm_TableInfo& table);
-    /// The steps of a table in a form, up to the current form or the class's end. Throws if a step is missing
-    /// or there are two.
+    /// The steps of a table in a form, up to the current form or the class's end. Throws if a step is
+    /// missing, there are two, or one without function would lose values.
     std::vector<dbc_PlannedStep> StepsFrom(const dbc_Form& form) const;
+    /// Throws if an attribute of one form has another kind in the next, and that can't hold all its values:
+    /// for rows that no function takes there.
+    void RequireKinds(const dbc_Form& from, const dbc_Form& to) const;
 
 private:
     struct Step
@@ -83,6 +86,8 @@ private:
         std::size_t owner;
     };
 
+    std::vector<dbc_PlannedStep> ChainFrom(const dbc_Form& form) const;
+    void RequireKinds(const std::vector<dbc_PlannedStep>& chain) const;
     const dbc_Form& FormOf(const rfm_TableInfo& table) const;
     bool IsCurrent(const dbc_Form& form) const;
     void FitTo(const rfm_TableInfo& table, dbc_PlannedTable& planned);
@@ -94,7 +99,8 @@ private:
     const dbc_Form* Destination(const dbc_Form& form, const dbc_ClassConverter& converter) const;
     unsigned SuccessorOf(const dbc_Form& form) const;
     bool IsDeleted(unsigned classId) const;
-    [[noreturn]] void Raise(const dbc_Form& form, const std::string& message) const;
+    [[noreturn]] void Raise(const dbc_Form& form, const std::string& message,
+                            const cow_String& field = cow_String()) const;
 
     const rfm_Database& store;
     dbc_DatabaseConverter& converter;

@@ -123,11 +123,7 @@ dbc_Stage::Output& dbc_Stage::OpenOutput(unsigned classId)
     Output& output = NewOutput(classId, {step.to, {}});
     // Rows that have their last form go where they stay.
     if (step.to == upgrade.plan.Forms().Current(classId))
-        output.rows->BeginStep(
-            upgrade.store.BeginTable(*step.to),
-            [&store = upgrade.store, classId](std::int64_t oid, const rfm_Cell* cells)
-            { store.PutRow(classId, oid, cells); },
-            [&store = upgrade.store, classId] { store.FlushRows(classId); });
+        output.rows->BeginStep(upgrade.store.BeginTable(*step.to));
     else
         output.rows->BeginStep();
     output.step = &step;
@@ -202,7 +198,7 @@ void dbc_Stage::ConvertRows(const dbc_TableState& input, Output& output)
         for (std::size_t i = 0; i < kept.size(); ++i)
         {
             if (kept[i] >= 0)
-                out.Cells()[i] = in.Cells()[kept[i]];
+                out.Cells()[i] = dbc_TakenOver(in.Cells()[kept[i]], step.to->UseOf(static_cast<int>(i)));
         }
         CallConversion(step, in, out);
         FinishCollections();
@@ -368,7 +364,10 @@ void dbc_Stage::EndClass(unsigned classId, const dbc_PlannedStep& step)
     dbc_TableState state = upgrade.tables.at(classId).state;
     upgrade.tables.erase(classId);
     if (step.successor == 0)
+    {
+        upgrade.store.EndClass(classId);
         return;
+    }
     const bool isMoved = std::any_of(
         temps.begin(), temps.end(), [&step](const auto& temp) { return temp.first.first == step.successor; });
     if (!isMoved)
@@ -378,6 +377,7 @@ void dbc_Stage::EndClass(unsigned classId, const dbc_PlannedStep& step)
             upgrade.stores.old.Raise(
                 "The rows of a class that was renamed can't join the table of its successor.",
                 step.from->Name());
+        upgrade.plan.RequireKinds(*state.form, *form);
         SetState(step.successor, state.InForm(*form));
     }
     for (rfm_ClassIdChange& change : upgrade.changes)

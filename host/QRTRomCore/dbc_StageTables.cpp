@@ -22,26 +22,24 @@ dbc_OutputRows::~dbc_OutputRows() = default;
 
 void dbc_OutputRows::BeginStep()
 {
-    dbc_Layer layer = dbc_NewLayer(context, *state.form);
+    const dbc_Layer layer = dbc_NewLayer(context, *state.form);
     // Scratch rows live too short to need a check number.
-    auto inserter = std::make_shared<rfm_Inserter>(context.stores.working, layer.physical);
-    BeginStep(
-        std::move(layer),
-        [inserter](std::int64_t oid, const rfm_Cell* row) { inserter->Insert(oid, row, rfm_Cell::Null()); },
-        [inserter] { inserter->Flush(); });
+    const auto inserter = std::make_shared<rfm_Inserter>(context.stores.working, layer.physical);
+    BeginStep({layer,
+               [this, inserter](std::int64_t oid, const rfm_Cell* row)
+               { inserter->Insert(oid, Marked(row), rfm_Cell::Null()); },
+               [inserter] { inserter->Flush(); }});
 }
 
-void dbc_OutputRows::BeginStep(dbc_Layer layer, std::function<void(std::int64_t, const rfm_Cell*)> put,
-                               std::function<void()> flush)
+void dbc_OutputRows::BeginStep(dbc_RowSink sink)
 {
-    putStep = std::move(put);
-    flushStep = std::move(flush);
-    state.layers.insert(state.layers.begin(), std::move(layer));
+    stepSink = std::move(sink);
+    state.layers.insert(state.layers.begin(), stepSink.layer);
 }
 
 void dbc_OutputRows::PutStepRow(const dbc_CellRow& row)
 {
-    putStep(row.Oid(), Marked(row));
+    stepSink.put(row.Oid(), row.Cells());
     isUnread = true;
 }
 
@@ -76,7 +74,7 @@ void dbc_OutputRows::Commit(dbc_CellRow& row)
         others = std::make_unique<rfm_Inserter>(context.stores.working, state.layers.back().physical,
                                                 rfm_OnConflict::Replace);
     }
-    others->Insert(row.Oid(), Marked(row), rfm_Cell::Null());
+    others->Insert(row.Oid(), Marked(row.Cells()), rfm_Cell::Null());
     isUnread = true;
     // What was edited is read again from now on.
     std::unique_ptr<dbc_CellRow> done = std::move(*found);
@@ -84,10 +82,9 @@ void dbc_OutputRows::Commit(dbc_CellRow& row)
     spare.push_back(std::move(done));
 }
 
-/// The row's cells, references that nothing was put into marked as such.
-const rfm_Cell* dbc_OutputRows::Marked(const dbc_CellRow& row)
+/// The cells of a row, references that nothing was put into marked as such.
+const rfm_Cell* dbc_OutputRows::Marked(const rfm_Cell* from)
 {
-    const rfm_Cell* from = row.Cells();
     for (std::size_t i = 0; i < cells.size(); ++i)
     {
         cells[i] = from[i];
@@ -100,8 +97,8 @@ const rfm_Cell* dbc_OutputRows::Marked(const dbc_CellRow& row)
 
 bool dbc_OutputRows::Flush()
 {
-    if (flushStep)
-        flushStep();
+    if (stepSink.flush)
+        stepSink.flush();
     if (others)
         others->Flush();
     return std::exchange(isUnread, false);

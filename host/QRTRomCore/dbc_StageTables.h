@@ -32,6 +32,15 @@ struct dbc_StageContext
 /// Adds a table of the scratch file for rows of a form, and returns the layer.
 dbc_Layer dbc_NewLayer(dbc_StageContext& context, const dbc_Form& form);
 
+/// Where the rows of a step go: the layer that holds them then, and how they are put there.
+struct dbc_RowSink
+{
+    dbc_Layer layer;
+    /// Takes the cells of a row as `dbc_CellRow` has them.
+    std::function<void(std::int64_t oid, const rfm_Cell* cells)> put;
+    std::function<void()> flush;
+};
+
 /// Rows that are put into a table in a stage: those of its own step go below, any others above.
 class dbc_OutputRows
 {
@@ -44,9 +53,8 @@ public:
 
     /// Puts in rows of the table's own step.
     void BeginStep();
-    /// The same, with `put` putting the rows where the layer has them.
-    void BeginStep(dbc_Layer layer, std::function<void(std::int64_t, const rfm_Cell*)> put,
-                   std::function<void()> flush);
+    /// The same, with rows that go elsewhere.
+    void BeginStep(dbc_RowSink sink);
     void PutStepRow(const dbc_CellRow& row);
 
     dbc_CellRow& NewRow(std::int64_t oid);
@@ -59,12 +67,11 @@ public:
     bool IsEmpty() const { return state.layers.empty(); }
 
 private:
-    const rfm_Cell* Marked(const dbc_CellRow& row);
+    const rfm_Cell* Marked(const rfm_Cell* from);
 
     dbc_StageContext& context;
     dbc_TableState state;
-    std::function<void(std::int64_t, const rfm_Cell*)> putStep;
-    std::function<void()> flushStep;
+    dbc_RowSink stepSink;
     std::unique_ptr<rfm_Inserter> others;
     bool isUnread = false;
     std::vector<rfm_Cell> cells;

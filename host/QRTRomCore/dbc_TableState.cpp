@@ -2,20 +2,6 @@
 
 #include <algorithm>
 
-std::vector<int> dbc_MatchColumns(const dbc_Form& from, const dbc_Form& to)
-{
-    std::vector<int> sources;
-    for (int i = 0; i < to.CellCount(); ++i)
-    {
-        const dbc_Form::Field found = from.Find(to.ColumnName(i).View());
-        const bool fits = found.cell >= 0 && !found.isReference &&
-                          from.Table().columns[static_cast<std::size_t>(found.cell)].kind ==
-                              to.Table().columns[static_cast<std::size_t>(i)].kind;
-        sources.push_back(fits ? found.cell : -1);
-    }
-    return sources;
-}
-
 dbc_TableState dbc_TableState::InForm(const dbc_Form& newForm) const
 {
     dbc_TableState changed{&newForm, layers};
@@ -32,14 +18,40 @@ dbc_TableState dbc_TableState::InForm(const dbc_Form& newForm) const
 
 namespace
 {
-std::unique_ptr<rfm_Cursor> CursorOn(const dbc_Stores& stores, const rfm_TableForm& physical)
+/// The store that names itself in errors, and the table as it knows it.
+struct Place
 {
-    // The old store's own connection names it in errors.
+    rfm_Database& store;
+    rfm_TableForm form;
+};
+
+Place PlaceOf(const dbc_Stores& stores, const rfm_TableForm& physical)
+{
     if (!(physical.schema == rfm_OldSchema))
-        return std::make_unique<rfm_Cursor>(stores.working, physical);
+        return {stores.working, physical};
     rfm_TableForm own = physical;
     own.schema = cow_String();
-    return std::make_unique<rfm_Cursor>(stores.old, own);
+    return {stores.old, own};
+}
+
+std::unique_ptr<rfm_Cursor> CursorOn(const dbc_Stores& stores, const rfm_TableForm& physical)
+{
+    const Place place = PlaceOf(stores, physical);
+    return std::make_unique<rfm_Cursor>(place.store, place.form);
+}
+
+bool IsWhole(const dbc_Layer& layer, const dbc_Form& form)
+{
+    if (layer.physical.columns.size() != layer.source.size())
+        return false;
+    for (std::size_t i = 0; i < layer.source.size(); ++i)
+    {
+        const bool isSame = layer.source[i] == static_cast<int>(i) &&
+                            layer.physical.columns[i].kind == form.Table().columns[i].kind;
+        if (!isSame)
+            return false;
+    }
+    return true;
 }
 } // namespace
 
@@ -48,7 +60,10 @@ dbc_StateCursor::dbc_StateCursor(const dbc_Stores& stores, const dbc_TableState&
     : state(state), changes(changes)
 {
     for (std::size_t i = 0; i < state.layers.size(); ++i)
-        sources.push_back({i, CursorOn(stores, state.layers[i].physical)});
+    {
+        const dbc_Layer& layer = state.layers[i];
+        sources.push_back({i, CursorOn(stores, layer.physical), IsWhole(layer, *state.form)});
+    }
 }
 
 bool dbc_StateCursor::SeekFrom(std::int64_t oid)
@@ -108,25 +123,34 @@ bool dbc_StateCursor::Seek(std::int64_t oid)
 
 void dbc_StateCursor::Take(dbc_CellRow& row) const
 {
+    const rfm_Cell* stored = current->cursor->Cells();
+    if (current->isWhole && changes.empty())
+    {
+        row.Begin(Oid(), stored);
+        return;
+    }
     row.Begin(Oid());
     rfm_Cell* cells = row.Cells();
-    const rfm_Cell* stored = current->cursor->Cells();
     const std::vector<int>& source = state.layers[current->layer].source;
     for (std::size_t i = 0; i < source.size(); ++i)
     {
         if (source[i] < 0)
             continue;
-        cells[i] = stored[source[i]];
-        if (changes.empty() || state.form->UseOf(static_cast<int>(i)) != dbc_Form::Use::ClassId)
+        const dbc_Form::Use use = state.form->UseOf(static_cast<int>(i));
+        cells[i] = dbc_TakenOver(stored[source[i]], use);
+        if (use == dbc_Form::Use::ClassId)
+            ChangeClassId(cells[i]);
+    }
+}
+
+void dbc_StateCursor::ChangeClassId(rfm_Cell& cell) const
+{
+    for (const rfm_ClassIdChange& change : changes)
+    {
+        if (!cell.Is(rfm_CellKind::Integer) || cell.integer != change.from)
             continue;
-        for (const rfm_ClassIdChange& change : changes)
-        {
-            if (cells[i].Is(rfm_CellKind::Integer) && cells[i].integer == change.from)
-            {
-                cells[i].integer = change.to;
-                break;
-            }
-        }
+        cell.integer = change.to;
+        return;
     }
 }
 
@@ -135,10 +159,10 @@ std::int64_t dbc_LastOid(const dbc_Stores& stores, const dbc_TableState& state)
     std::int64_t last = 0;
     for (const dbc_Layer& layer : state.layers)
     {
-        rfm_Statement statement(stores.working,
-                                "SELECT MAX(" + rfm_Quoted(layer.physical.keyColumn) + ") FROM " +
-                                    layer.physical.SqlName(),
-                                layer.physical.name);
+        const Place place = PlaceOf(stores, layer.physical);
+        rfm_Statement statement(
+            place.store, "SELECT MAX(" + rfm_Quoted(place.form.keyColumn) + ") FROM " + place.form.SqlName(),
+            place.form.name);
         const rfm_Cell cell = statement.Step() ? statement.Column(0) : rfm_Cell::Null();
         if (cell.Is(rfm_CellKind::Integer))
             last = std::max(last, cell.integer);

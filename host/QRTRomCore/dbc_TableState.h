@@ -28,9 +28,6 @@ struct dbc_TableState
     dbc_TableState InForm(const dbc_Form& newForm) const;
 };
 
-/// For each column of one form the column of the same name and kind in another; -1 for none.
-std::vector<int> dbc_MatchColumns(const dbc_Form& from, const dbc_Form& to);
-
 /// Reads the rows of a table state.
 class dbc_StateCursor
 {
@@ -60,10 +57,12 @@ private:
     {
         std::size_t layer;
         std::unique_ptr<rfm_Cursor> cursor;
+        bool isWhole; ///< the cells of a row are those of the form, one for one
         bool isThere = false;
     };
 
     bool FindLowest();
+    void ChangeClassId(rfm_Cell& cell) const;
 
     const dbc_TableState& state;
     const std::vector<rfm_ClassIdChange>& changes;

@@ -8,10 +8,29 @@
 
 namespace
 {
-std::int64_t CountRows(rfm_Database& database, const rfm_TableForm& form)
+std::int64_t NumberOf(rfm_Database& database, const std::string& what, const cow_String& table)
 {
-    rfm_Statement statement(database, "SELECT COUNT(*) FROM " + form.SqlName(), form.name);
-    return statement.Step() ? statement.Column(0).integer : 0;
+    rfm_Statement statement(database, "SELECT " + what + " FROM " + rfm_Quoted(table), table);
+    const rfm_Cell found = statement.Step() ? statement.Column(0) : rfm_Cell::Null();
+    return found.Is(rfm_CellKind::Integer) ? found.integer : 0;
+}
+
+std::int64_t CountRows(rfm_Database& database, const cow_String& table)
+{
+    return NumberOf(database, "COUNT(*)", table);
+}
+
+/// At most so many rows are in a table: as many as lie between its first and its last number, which takes no
+/// walk through it, unless the file has no room for them.
+std::int64_t MostRows(rfm_Database& database, const cow_String& table)
+{
+    constexpr std::int64_t leastBytes = 4;
+    const std::int64_t low = NumberOf(database, "MIN(\"OID\")", table);
+    const std::int64_t high = NumberOf(database, "MAX(\"OID\")", table);
+    const std::uint64_t span = static_cast<std::uint64_t>(high) - static_cast<std::uint64_t>(low);
+    if (span >= static_cast<std::uint64_t>(database.FileSize() / leastBytes))
+        return CountRows(database, table);
+    return static_cast<std::int64_t>(span) + 1;
 }
 
 cow_String NamesOf(const dbc_ClassConverter& step)
@@ -74,20 +93,32 @@ struct dbc_Upgrade::Upgrade
     {
         dbc_PlannedTable way = plan.PlanTable(table);
         dbc_TableOnItsWay planned{StoredState(*way.form, table), std::move(way.steps), 0};
-        dbc_UpgradeTable described{table.name,
-                                   table.classId,
-                                   CountRows(old, rfm_TableForm::Of(table)),
-                                   table.version,
-                                   table.version,
-                                   table.name,
-                                   {}};
+        dbc_UpgradeTable described{table.name,    table.classId, 0, table.version,
+                                   table.version, table.name,    {}};
         for (const dbc_PlannedStep& step : planned.steps)
             described.steps.push_back(Described(step));
         if (!planned.steps.empty())
             DescribeEnd(planned.steps.back(), described);
-        rowsToDo += described.rows * (1 + FunctionsOf(described));
         tables[table.classId] = std::move(planned);
         descriptions.push_back(std::move(described));
+    }
+
+    void CountOnce()
+    {
+        if (hasCounted)
+            return;
+        for (dbc_UpgradeTable& table : descriptions)
+            table.rows = CountRows(old, table.name);
+        hasCounted = true;
+    }
+
+    /// Counted once for each function, and once for the new store.
+    std::int64_t RowsToDo()
+    {
+        std::int64_t rows = 0;
+        for (const dbc_UpgradeTable& table : descriptions)
+            rows += MostRows(old, table.name) * (1 + FunctionsOf(table));
+        return rows;
     }
 
     static std::int64_t FunctionsOf(const dbc_UpgradeTable& table)
@@ -118,7 +149,7 @@ struct dbc_Upgrade::Upgrade
     dbc_Plan plan;
     dbc_Tables tables;
     std::vector<dbc_UpgradeTable> descriptions;
-    std::int64_t rowsToDo = 0;
+    bool hasCounted = false;
 };
 
 dbc_Upgrade::dbc_Upgrade(const cow_String& oldPath) : upgrade(std::make_unique<Upgrade>(oldPath)) {}
@@ -127,6 +158,7 @@ dbc_Upgrade::~dbc_Upgrade() = default;
 
 const std::vector<dbc_UpgradeTable>& dbc_Upgrade::Tables() const
 {
+    upgrade->CountOnce();
     return upgrade->descriptions;
 }
 
@@ -140,12 +172,13 @@ void dbc_Upgrade::Run(const cow_String& newPath, const Progress& progress)
 {
     rfm_Database working(newPath, rfm_Access::Create);
     working.AttachForConversion(upgrade->old);
+    const std::int64_t rowsToDo = progress ? upgrade->RowsToDo() : 0;
     std::int64_t done = 0;
     const auto count = [&](std::int64_t rows)
     {
         done += rows;
         if (progress && rows > 0)
-            progress(std::min(done, upgrade->rowsToDo), upgrade->rowsToDo);
+            progress(std::min(done, rowsToDo), rowsToDo);
     };
     const dbc_Stores stores{upgrade->old, working};
     std::vector<rfm_ClassIdChange> changes;

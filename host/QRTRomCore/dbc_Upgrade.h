@@ -34,7 +34,8 @@ struct dbc_UpgradeTable
 class OVR_EXPORT dbc_Upgrade
 {
 public:
-    /// Called with the count of rows that are done, and of all rows there are to do.
+    /// Called with the count of rows that are done, and of all rows there are to do; the latter may be too
+    /// high where the numbers of rows have holes.
     using Progress = std::function<void(std::int64_t done, std::int64_t total)>;
 
     /// Plans the upgrade. Throws if there is no way from a table of the store to this release: its class or
@@ -44,7 +45,8 @@ public:
     dbc_Upgrade& operator=(const dbc_Upgrade&) = delete;
     ~dbc_Upgrade();
 
-    /// The tables of the old store by class id.
+    /// The tables of the old store by class id. Counts their rows when first asked, which throws where the
+    /// file is damaged.
     const std::vector<dbc_UpgradeTable>& Tables() const;
     /// Whether every table has the form of this release.
     bool IsCurrent() const;

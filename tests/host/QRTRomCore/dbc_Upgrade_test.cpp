@@ -813,6 +813,263 @@ INSTANTIATE_TEST_SUITE_P(
              "old: table upg_Shape, field name: The class has no such attribute."}),
     [](const auto& info) { return info.param.name; });
 
+// ---- attributes that have another kind under the same name ----
+
+void* DoubleValue(const dbc_Row& input, dbc_Row& output, int)
+{
+    output.PutDouble(F("number"), 2 * input.GetDouble(F("number")));
+    return nullptr;
+}
+
+void* NumberFromText(const dbc_Row& input, dbc_Row& output, int)
+{
+    output.PutInt(F("label"), std::stoi(input.GetText(F("label")).CString()));
+    return nullptr;
+}
+
+/// A release that keeps an attribute in another kind, by a step without function.
+struct KindChange
+{
+    const char* name;
+    tst_Form::Attribute from;
+    tst_Form::Attribute to;
+    const char* row;
+    const char* expected;
+};
+
+const KindChange kindChanges[] = {
+    {"IntegerToReal", numberAttribute, {"number", cls_TypeDouble}, "42", "real 42.0"},
+    {"TruthValueToReal", flagAttribute, {"flag", cls_TypeDouble}, "1", "real 1.0"},
+    {"TruthValueToInteger", flagAttribute, {"flag", cls_TypeInt}, "1", "integer 1"},
+    {"IntegerToSecondInteger", numberAttribute, {"number", cls_TypeIntSecond}, "-3", "integer -3"},
+    {"TextToEnumeration", labelAttribute, {"label", cls_TypeEnum}, "'A'", "text A"},
+    {"EnumerationToText", {"label", cls_TypeEnum}, labelAttribute, "'A'", "text A"},
+    {"IntegerThatNoRealHolds",
+     numberAttribute,
+     {"number", cls_TypeDouble},
+     "9007199254740993",
+     "old: table upg_Shape, row 1, field number: The cell holds another kind of value than its column."},
+    {"RealToInteger",
+     valueAttribute,
+     {"value", cls_TypeInt},
+     "1.5",
+     "old: table upg_Shape, field value: The table can't be upgraded. The attribute holds a real number at "
+     "version 1 and an integer at version 2, and no function converts it."},
+    {"IntegerToTruthValue",
+     numberAttribute,
+     {"number", cls_TypeBool},
+     "1",
+     "old: table upg_Shape, field number: The table can't be upgraded. The attribute holds an integer at "
+     "version 1 and a truth value at version 2, and no function converts it."},
+    {"TextToInteger",
+     labelAttribute,
+     {"label", cls_TypeInt},
+     "'1'",
+     "old: table upg_Shape, field label: The table can't be upgraded. The attribute holds a text at version "
+     "1 "
+     "and an integer at version 2, and no function converts it."},
+    {"EnumerationToReal",
+     {"label", cls_TypeEnum},
+     {"label", cls_TypeDouble},
+     "'A'",
+     "old: table upg_Shape, field label: The table can't be upgraded. The attribute holds an enumeration at "
+     "version 1 and a real number at version 2, and no function converts it."},
+    {"ObjectToInteger",
+     lidAttribute,
+     {"lid", cls_TypeInt},
+     "NULL, NULL",
+     "old: table upg_Shape, field lid: The table can't be upgraded. The attribute holds an object at version "
+     "1 and an integer at version 2, and no function converts it."},
+    {"TextToObject",
+     {"lid", cls_TypeText},
+     lidAttribute,
+     "'A'",
+     "old: table upg_Shape, field lid: The table can't be upgraded. The attribute holds a text at version 1 "
+     "and an object at version 2, and no function converts it."},
+    {"ListOfNumbersToListOfObjects",
+     numbersAttribute,
+     {"numbers", cls_TypeObject, cls_ListTypeId, cls_CollectionListObj},
+     "NULL, NULL",
+     "old: table upg_Shape, field numbers: The table can't be upgraded. The attribute holds a collection of "
+     "code 52 at version 1 and a collection of code 1 at version 2, and no function converts it."}};
+
+class KindOfAttribute : public testing::TestWithParam<KindChange>
+{};
+
+TEST_P(KindOfAttribute, IsKeptOrRefused)
+{
+    const KindChange& change = GetParam();
+    const std::string row = std::string("INSERT INTO upg_Shape VALUES (1, x'00', ") + change.row + ", NULL)";
+    const std::string column = change.to.name;
+    const std::string query = "SELECT typeof(" + column + ") || ' ' || " + column + " FROM upg_Shape";
+    const Case each{
+        change.name,
+        [&change](tst_Release& release)
+        {
+            release.Had({Shape(1, {change.from}), tst_Step("upg_Shape", shapeId, 1, 2)});
+            release.Had({Shape(2, {change.to, nameAttribute}), tst_Step("upg_Shape", shapeId, 2, 3)});
+            release.Has(Shape(3, {change.to}));
+        },
+        {Shape(1, {change.from})},
+        row.c_str(),
+        query.c_str(),
+        change.expected};
+    const tst_Folder folder;
+    EXPECT_EQ(change.expected, UpgradeAndQuery(folder, each));
+}
+
+INSTANTIATE_TEST_SUITE_P(Changes, KindOfAttribute, testing::ValuesIn(kindChanges),
+                         [](const auto& info) { return info.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, UpgradeCase,
+    testing::Values(
+        Case{"FunctionsSeeTheKindOfTheirVersion",
+             [](tst_Release& release)
+             {
+                 const tst_Form::Attribute real{"number", cls_TypeDouble};
+                 release.Had({Shape(1, {numberAttribute}), tst_Step("upg_Shape", shapeId, 1, 2)});
+                 release.Had({Shape(2, {real}), tst_Step("upg_Shape", shapeId, 2, 3, DoubleValue)});
+                 release.Had({Shape(3, {real}), tst_Step("upg_Shape", shapeId, 3, 4, DoubleValue)});
+                 release.Has(Shape(4, {real}));
+             },
+             {Shape(1, {numberAttribute})},
+             "INSERT INTO upg_Shape VALUES (1, x'00', 5, NULL)",
+             "SELECT typeof(number) || number FROM upg_Shape",
+             "real20.0"},
+        Case{"WidenedBehindAFunctionThatLeavesIt",
+             [](tst_Release& release)
+             {
+                 const tst_Form::Attribute real{"number", cls_TypeDouble};
+                 release.Had({Shape(1, {numberAttribute, nameAttribute}),
+                              tst_Step("upg_Shape", shapeId, 1, 2, RenameLabel)});
+                 release.Has(Shape(2, {real, labelAttribute}));
+             },
+             {Shape(1, {numberAttribute, nameAttribute})},
+             "INSERT INTO upg_Shape VALUES (1, x'00', 5, 'text', NULL)",
+             "SELECT typeof(number) || number || label FROM upg_Shape",
+             "real5.0text"},
+        Case{"FunctionConverts",
+             [](tst_Release& release)
+             {
+                 release.Had(
+                     {Shape(1, {labelAttribute}), tst_Step("upg_Shape", shapeId, 1, 2, NumberFromText)});
+                 release.Has(Shape(2, {{"label", cls_TypeInt}}));
+             },
+             {Shape(1, {labelAttribute})},
+             "INSERT INTO upg_Shape VALUES (1, x'00', '17', NULL)",
+             "SELECT typeof(label) || label FROM upg_Shape",
+             "integer17"},
+        Case{"NothingIsLostWhereTheColumnLacks",
+             [](tst_Release& release)
+             {
+                 release.Had(
+                     {Shape(1, {numberAttribute, labelAttribute}), tst_Step("upg_Shape", shapeId, 1, 2)});
+                 release.Has(Shape(2, {numberAttribute, {"label", cls_TypeInt}}));
+             },
+             {Shape(1, {numberAttribute})},
+             "",
+             "SELECT Version FROM rom_Class WHERE Name = 'upg_Shape'",
+             "2"}),
+    [](const auto& info) { return info.param.name; });
+
+// ---- what is left of classes that are no more ----
+
+constexpr unsigned oldCrateId = 0xFD0011;
+
+const tst_Form oldCrate{"upg_OldCrate", oldCrateId, 1, cls_RootId, {partsAttribute}};
+const tst_Form::Attribute contentAttribute{"content", cls_TypeObject, shapeId};
+
+void DeleteOldCrate(dbc_DatabaseConverter& converter)
+{
+    converter.ClassesToDelete().InsertIndex(0, oldCrateId);
+    converter.InputClasses().DeleteClass("upg_OldCrate", oldCrateId);
+    converter.OutputClasses().DeleteClass("upg_OldCrate", oldCrateId);
+}
+
+void HasNoMoreOldBoxes(tst_Release& release)
+{
+    release.Had({oldBox, {}, DeleteOldBox});
+    release.Had({oldCrate, {}, DeleteOldCrate});
+    release.Has(Shape(1, {numberAttribute}));
+    release.Has(Crate(1, {contentAttribute}));
+    release.Has(Lid(1, {partsAttribute}));
+}
+
+const std::vector<tst_Form> formsWithOldBoxes{Shape(1, {numberAttribute}), oldBox, oldCrate,
+                                              Crate(1, {contentAttribute}), Lid(1, {partsAttribute})};
+
+/// A store with an old crate that has a list of old boxes, whose one box has a base.
+struct Vanished
+{
+    const char* name;
+    const char* moreRows;
+    const char* query;
+    const char* expected;
+};
+
+constexpr char vanishedRows[] =
+    "INSERT INTO upg_Shape VALUES (5, x'00', 50, NULL), (6, x'01', 60, NULL);"
+    "INSERT INTO upg_OldBox VALUES (2, x'02', 6, 'gone', NULL);"
+    "INSERT INTO upg_OldCrate VALUES (1, x'03', 0x230001, 4, NULL);"
+    "INSERT INTO cls_List VALUES (4, x'04', 1, 1, NULL, NULL, NULL), (7, x'05', 1, 1, NULL, NULL, NULL);"
+    "INSERT INTO rom_Element VALUES (0x230001, 4, 0, NULL, NULL, 0xFD0010, 2, NULL), "
+    "(0x230001, 7, 0, NULL, NULL, 0xFD0001, 5, NULL);";
+
+const Vanished vanished[] = {
+    {"WhatTheyAloneReachGoesWithThem",
+     "INSERT INTO upg_Lid VALUES (1, x'06', 0x230001, 7, NULL);"
+     "INSERT INTO rom_Root VALUES (1, 'lid', 0xFD0004, 1, NULL)",
+     "SELECT (SELECT group_concat(OID) FROM upg_Shape) || ' ' || (SELECT group_concat(OID) FROM cls_List) || "
+     "' ' || (SELECT group_concat(OID || ':' || \"Target#OID\") FROM rom_Element) || ' ' || "
+     "(SELECT COUNT(*) FROM rom_Class WHERE Name LIKE 'upg_Old%')",
+     "5 7 7:5 0"},
+    {"RowThatNothingReachesRefersToOne",
+     "INSERT INTO upg_Crate VALUES (1, x'06', 0xFD0010, 2, NULL), (2, x'07', 0xFD0001, 5, NULL);"
+     "INSERT INTO rom_Root VALUES (1, 'crate', 0xFD0003, 2, NULL)",
+     "SELECT group_concat(OID || ':' || \"content#OID\") || (SELECT COUNT(*) FROM rom_Element) FROM "
+     "upg_Crate",
+     "2:50"},
+    {"NothingGoesWhereNothingRefersToOne",
+     "DELETE FROM rom_Element;"
+     "INSERT INTO upg_Crate VALUES (1, x'06', NULL, NULL, NULL);"
+     "INSERT INTO rom_Root VALUES (1, 'crate', 0xFD0003, 1, NULL)",
+     "SELECT group_concat(OID) || (SELECT COUNT(*) FROM cls_List) FROM upg_Shape", "5,62"},
+    {"NamedObjectRefersToOne",
+     "INSERT INTO upg_Crate VALUES (1, x'06', 0xFD0010, 2, NULL);"
+     "INSERT INTO rom_Root VALUES (1, 'crate', 0xFD0003, 1, NULL)",
+     "",
+     "old: table upg_Crate, row 1, field content#OID: The reference leads to an object of unknown class "
+     "16580624, and the attribute takes unknown class 16580609."},
+    {"NamedObjectHasAListOfThem",
+     "INSERT INTO upg_Lid VALUES (1, x'06', 0x230001, 4, NULL);"
+     "INSERT INTO rom_Root VALUES (1, 'lid', 0xFD0004, 1, NULL)",
+     "",
+     "old: table rom_Element, row 4, field Target#OID: The reference leads to a row of unknown class "
+     "16580624 "
+     "that is not there."},
+    {"NoNamedObjectTellsWhatIsInUse", "", "",
+     "old: table rom_Element, row 4, field Target#OID: The reference leads to a row of unknown class "
+     "16580624 "
+     "that is not there."},
+    {"NamedObjectIsOne", "INSERT INTO rom_Root VALUES (1, 'box', 0xFD0010, 2, NULL)", "",
+     "old: table rom_Root: The object of the name \"box\" is of a class that has no table."}};
+
+class VanishedClass : public testing::TestWithParam<Vanished>
+{};
+
+TEST_P(VanishedClass, TakesAlongWhatNothingElseReaches)
+{
+    const std::string rows = std::string(vanishedRows) + GetParam().moreRows;
+    const Case each{GetParam().name, HasNoMoreOldBoxes, formsWithOldBoxes,
+                    rows.c_str(),    GetParam().query,  GetParam().expected};
+    const tst_Folder folder;
+    EXPECT_EQ(each.expected, UpgradeAndQuery(folder, each));
+}
+
+INSTANTIATE_TEST_SUITE_P(With, VanishedClass, testing::ValuesIn(vanished),
+                         [](const auto& info) { return info.param.name; });
+
 // ---- what is refused ----
 
 void* MakeAndForget(const dbc_Row&, dbc_Row&, int)
@@ -1100,6 +1357,67 @@ TEST(Upgrade, PlanTellsTablesAndSteps)
               "upg_OldBox 2 1-3 upg_Box 1>2 2>3Upgrade_Test\n",
               plan);
 }
+
+/// The error of an upgrade of a store with a page of which SQLite can make nothing, in the middle of a table.
+std::string UpgradeWithDamagedPage(const tst_Folder& folder, const char* table, const std::string& mark)
+{
+    std::string bytes = tst_ReadFile(folder / "old");
+    constexpr std::size_t pageSize = 16384;
+    const std::size_t page = bytes.find(mark) / pageSize * pageSize;
+    EXPECT_LT(page, bytes.size());
+    bytes[page] = 0;
+    tst_WriteFile(folder / "old", bytes);
+    try
+    {
+        dbc_Upgrade((folder / "old").c_str()).Run((folder / "new").c_str());
+    }
+    catch (const rom_StoreException& error)
+    {
+        EXPECT_EQ("old", folder.Names());
+        EXPECT_STREQ((folder / "old").c_str(), error.StoreFile().CString());
+        EXPECT_STREQ(table, error.Table().CString());
+        return error.what();
+    }
+    return "no error";
+}
+
+struct Damage
+{
+    const char* name;
+    const char* table;
+    dbc_ConversionFunction function;
+};
+
+class DamagedPage : public testing::TestWithParam<Damage>
+{};
+
+TEST_P(DamagedPage, IsToldOfTheOldStore)
+{
+    const tst_Folder folder;
+    tst_Release release;
+    release.Had({Shape(1, {nameAttribute}), tst_Step("upg_Shape", shapeId, 1, 2, GetParam().function)});
+    release.Has(Shape(2, {GetParam().function ? labelAttribute : nameAttribute}));
+    tst_MakeStore(folder / "old", {Shape(1, {nameAttribute})});
+    tst_Execute(
+        folder / "old",
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "
+        "INSERT INTO upg_Shape SELECT i, x'00', 'upg_Shape is number ' || i, NULL FROM n;"
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "
+        "INSERT INTO rom_Element SELECT 0x230001, 1, i, NULL, 'rom_Element is number ' || i, NULL, NULL, "
+        "NULL FROM n;"
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "
+        "INSERT INTO rfm_Array SELECT i, 4, 1, CAST('rfm_Array is number ' || i AS BLOB), NULL FROM n");
+    const std::string mark = std::string(GetParam().table) + " is number 2500";
+    EXPECT_THAT(UpgradeWithDamagedPage(folder, GetParam().table, mark),
+                testing::HasSubstr("The file is damaged (database disk image is malformed)."));
+}
+
+INSTANTIATE_TEST_SUITE_P(In, DamagedPage,
+                         testing::Values(Damage{"ATableThatIsCopied", "upg_Shape", nullptr},
+                                         Damage{"ATableThatIsConverted", "upg_Shape", RenameLabel},
+                                         Damage{"TheElements", "rom_Element", nullptr},
+                                         Damage{"TheArrays", "rfm_Array", nullptr}),
+                         [](const auto& info) { return info.param.name; });
 
 TEST(Upgrade, NewFileMustNotBeThere)
 {
