@@ -13,26 +13,29 @@ std::size_t BytesOf(const rfm_Cell& cell)
 } // namespace
 
 rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const cow_String& table, int width)
-    : rfm_RowBatch(database, table, "INSERT INTO " + rfm_Quoted(table), "(", width)
+    : rfm_RowBatch(database, table, "INSERT INTO " + rfm_Quoted(table), width)
 {}
 
 rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const rfm_TableForm& form, const char* deed)
-    : rfm_RowBatch(database, form.name, std::string(deed) + " INTO " + form.SqlName(), "(",
+    : rfm_RowBatch(database, form.name, std::string(deed) + " INTO " + form.SqlName(),
                    static_cast<int>(form.columns.size() + 2))
 {}
 
 rfm_RowBatch rfm_RowBatch::WithoutKeys(rfm_Database& database, const rfm_TableForm& form)
 {
-    return {database, form.name, "INSERT INTO " + form.SqlName(), "(NULL,",
+    // A key that is given, even as NULL, might be taken, and each statement would keep what undoes it.
+    std::string sql = "INSERT INTO " + form.SqlName() + " (";
+    for (const rfm_Column& column : form.columns)
+        sql += rfm_Quoted(column.name) + ",";
+    return {database, form.name, sql + rfm_Quoted(rfm_CheckColumn) + ")",
             static_cast<int>(form.columns.size() + 1)};
 }
 
 rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const cow_String& table, const std::string& sqlStart,
-                           const char* rowStart, int width)
+                           int width)
     : database(database),
       table(table),
       sqlStart(sqlStart),
-      rowStart(rowStart),
       width(width),
       rowLimit(std::clamp(mostParameters / width, 1, mostRows)),
       single(database, SqlFor(1), table),
@@ -41,7 +44,7 @@ rfm_RowBatch::rfm_RowBatch(rfm_Database& database, const cow_String& table, cons
 
 std::string rfm_RowBatch::SqlFor(int rows) const
 {
-    std::string row = rowStart + std::string("?");
+    std::string row = "(?";
     for (int i = 1; i < width; ++i)
         row += ",?";
     row += ")";
@@ -63,7 +66,7 @@ void rfm_RowBatch::Take()
     std::size_t bytes = 0;
     for (int i = 0; i < width; ++i)
         bytes += BytesOf(row[i]);
-    if (bytes > arenaSize - arenaUsed) [[unlikely]]
+    if (rowCount > 0 && bytes > arenaSize - arenaUsed) [[unlikely]]
     {
         Flush();
         row = std::copy_n(row, width, NextRow()) - width;

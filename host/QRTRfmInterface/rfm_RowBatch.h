@@ -39,13 +39,11 @@ private:
     void Run(rfm_Statement& statement, const rfm_Cell* cells, int rows);
     void Keep(rfm_Cell& cell);
 
-    rfm_RowBatch(rfm_Database& database, const cow_String& table, const std::string& sqlStart,
-                 const char* rowStart, int width);
+    rfm_RowBatch(rfm_Database& database, const cow_String& table, const std::string& sqlStart, int width);
 
     rfm_Database& database;
     cow_String table;
     std::string sqlStart;
-    const char* rowStart; ///< a row's values up to the first parameter
     int width;
     int rowLimit;
     rfm_Statement single;
