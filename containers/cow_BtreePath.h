@@ -42,7 +42,7 @@ private:
     [[gnu::noinline]] void Grow()
     {
         const std::size_t bytes = static_cast<std::size_t>(capacity) * sizeof(Step);
-        auto* grown = static_cast<Step*>(mem_Malloc(2 * bytes));
+        auto* grown = static_cast<Step*>(mem_OperatorNewThrow(2 * bytes));
         std::memcpy(grown, steps, bytes);
         if (steps != inlineSteps)
             mem_Free(steps);

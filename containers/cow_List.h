@@ -439,7 +439,7 @@ private:
     static ListBlock** NewTable(int gap, int capacity)
     {
         const auto slots = static_cast<std::size_t>(capacity) * sizeof(ListBlock*);
-        auto* storage = static_cast<std::byte*>(mem_Malloc(sizeof(TableHead) + slots));
+        auto* storage = static_cast<std::byte*>(mem_OperatorNewThrow(sizeof(TableHead) + slots));
         auto* head =
             reinterpret_cast<TableHead*>(storage + static_cast<std::size_t>(gap) * sizeof(ListBlock*));
         ::new (static_cast<void*>(head)) TableHead{nullptr, nullptr, nullptr, nullptr, gap, capacity};
@@ -547,7 +547,7 @@ private:
         void* storage = mem_OperatorNewTinyThrow(sizeof(ListBlock));
         try
         {
-            return ::new (storage) ListBlock{1, static_cast<T*>(mem_Malloc(bytes))};
+            return ::new (storage) ListBlock{1, static_cast<T*>(mem_OperatorNewThrow(bytes))};
         }
         catch (...)
         {

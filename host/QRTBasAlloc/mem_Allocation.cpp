@@ -92,14 +92,6 @@ SlabPage* NewPage(unsigned slabClass)
     return ::new (static_cast<void*>(first + page)) SlabPage{~std::uint64_t{0}, nullptr};
 }
 
-void* HeapResize(void* block, std::size_t size)
-{
-    void* resized = std::realloc(block, size);
-    if (resized == nullptr)
-        throw std::bad_alloc();
-    return resized;
-}
-
 /// The class's next page with free blocks, or null; it is the current one from then on.
 SlabPage* TurnPage(unsigned slabClass)
 {
@@ -193,7 +185,19 @@ void mem_detail::HeapFree(void* block) noexcept
     std::free(block);
 }
 
-void* mem_Realloc(void* block, std::size_t size)
+void* mem_Malloc(std::size_t size) noexcept
+{
+    try
+    {
+        return mem_OperatorNewThrow(size);
+    }
+    catch (const std::bad_alloc&)
+    {
+        return nullptr;
+    }
+}
+
+void* mem_Realloc(void* block, std::size_t size) noexcept
 {
     if (block == nullptr)
         return mem_Malloc(size);
@@ -203,13 +207,15 @@ void* mem_Realloc(void* block, std::size_t size)
         return nullptr;
     }
     if (!IsSlabBlock(block))
-        return HeapResize(block, size);
+        return std::realloc(block, size);
 
     const auto slabClass =
         static_cast<unsigned>((reinterpret_cast<std::uintptr_t>(block) - slab.base) >> slabShift);
     if (size <= slabLimit && SlabClass(size) == slabClass)
         return block;
     void* moved = mem_Malloc(size);
+    if (moved == nullptr)
+        return nullptr;
     std::memcpy(moved, block, std::min(size, SlabSize(slabClass)));
     mem_Free(block);
     return moved;

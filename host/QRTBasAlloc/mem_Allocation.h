@@ -163,15 +163,12 @@ inline void* mem_OperatorNewTinyThrow(std::size_t size)
     return mem_OperatorNewThrow(size);
 }
 
-/// As malloc, but throws std::bad_alloc instead of returning null.
-inline void* mem_Malloc(std::size_t size)
-{
-    return mem_OperatorNewThrow(size);
-}
+/// As malloc: null when there is no memory.
+OVR_EXPORT void* mem_Malloc(std::size_t size) noexcept;
 
-/// As realloc, for any block of this header, but throws std::bad_alloc (the old block stays valid) instead of
-/// returning null. Size 0 frees the block and returns null.
-OVR_EXPORT void* mem_Realloc(void* block, std::size_t size);
+/// As realloc, for any block of this header: null when there is no memory, and the old block stays valid.
+/// Size 0 frees the block and returns null.
+OVR_EXPORT void* mem_Realloc(void* block, std::size_t size) noexcept;
 
 /// Gives back a block of any function of this header; null does nothing.
 inline void mem_Free(void* block) noexcept

@@ -17,7 +17,7 @@ atr_StringHeader* NewHeader(std::size_t length)
     if (length > longest)
         throw std::length_error("A text of 2^31 characters or more cannot be held.");
     const std::size_t bytes = (length + overhead + blockStep - 1) / blockStep * blockStep;
-    return ::new (mem_Malloc(bytes))
+    return ::new (mem_OperatorNewThrow(bytes))
         atr_StringHeader{1, static_cast<int>(length), static_cast<int>(bytes - overhead)};
 }
 

@@ -12,7 +12,7 @@ class Scratch
 {
 public:
     explicit Scratch(long count)
-        : values(static_cast<T*>(mem_Malloc(sizeof(T) * static_cast<std::size_t>(count + 1))))
+        : values(static_cast<T*>(mem_OperatorNewThrow(sizeof(T) * static_cast<std::size_t>(count + 1))))
     {}
 
     Scratch(const Scratch&) = delete;
