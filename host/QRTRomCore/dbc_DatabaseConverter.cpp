@@ -8,7 +8,7 @@ template <class Database>
 Database& Required(Database* database)
 {
     if (!database)
-        nex_CmdException<cow_String, 9>("No upgrade is under way.", 0).Throw(__FILE__, __LINE__);
+        nex_CmdException<atr_String, 2>(atr_String("No upgrade is under way."), 0).Throw(__FILE__, __LINE__);
     return *database;
 }
 } // namespace

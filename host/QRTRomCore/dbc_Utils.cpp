@@ -13,8 +13,7 @@ namespace
 {
 [[noreturn]] void Raise(const cow_String& message)
 {
-    nex_CmdException<cow_String, 9>(message, 0).Throw(__FILE__, __LINE__);
-    std::abort();
+    nex_CmdException<atr_String, 2>(atr_String(message), 0).Throw(__FILE__, __LINE__);
 }
 
 dbc_DatabaseConverter& Converter()

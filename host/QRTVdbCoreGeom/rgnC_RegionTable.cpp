@@ -7,15 +7,12 @@
 #include "nex_Exceptions.h"
 #include "rgnC_Region.h"
 
-#include <cstdlib>
-
 namespace
 {
 [[noreturn]] void RaiseNoUpgrade()
 {
-    nex_CmdException<cow_String, 9>("A region can't be added: no upgrade is under way.", 0)
+    nex_CmdException<atr_String, 2>(atr_String("A region can't be added: no upgrade is under way."), 0)
         .Throw(__FILE__, __LINE__);
-    std::abort();
 }
 } // namespace
 

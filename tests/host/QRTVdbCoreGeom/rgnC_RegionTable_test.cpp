@@ -123,7 +123,7 @@ TEST(rgnC_RegionTable, EachRowGetsAnEmptyRegionOfItsOwn)
 
 TEST(rgnC_RegionTable, NeedsAnUpgrade)
 {
-    using Refusal = nex_CmdException<cow_String, 9>;
+    using Refusal = nex_CmdException<atr_String, 2>;
     MemoryRow row;
     EXPECT_THROW(rgnC_RegionTable::AddNewRegion(row, "nodes"), Refusal);
     EXPECT_TRUE(row.All().empty());
